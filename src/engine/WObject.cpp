@@ -1,0 +1,8 @@
+#include "WObject.h"
+
+WObject::WObject(QObject *parent)
+    : QObject(parent)
+{
+}
+
+WObject::~WObject() = default;

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <LumakitQmlExport.h>
+
+#include <QObject>
+
+/// The common base of the library's controller objects.
+class LUMAKITQML_EXPORT WObject : public QObject
+{
+public:
+    explicit WObject(QObject *parent = nullptr);
+    ~WObject() override;
+};

@@ -1,0 +1,5 @@
+#include "WQAbstractNativeEventFilter.h"
+
+WQAbstractNativeEventFilter::WQAbstractNativeEventFilter() = default;
+
+WQAbstractNativeEventFilter::~WQAbstractNativeEventFilter() = default;

@@ -1,0 +1,10 @@
+#include "WMovieProviderSource.h"
+
+WMovieProviderSource::WMovieProviderSource(QObject *parent)
+    : IWMovieProviderSource(parent)
+{
+}
+
+void WMovieProviderSource::fetch(const QString &)
+{
+}
