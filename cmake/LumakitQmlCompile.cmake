@@ -2,7 +2,8 @@
 #
 # Puts QML files and scripts flat at qrc:/Qml/<file name> into the target and compiles them ahead of
 # time, so that no source is parsed at run time. NAME tells the resource sets of one program apart.
-# IMPORTS names folders with type information (qmldir and .qmltypes) for the compiler.
+# IMPORTS names folders with type information (qmldir and .qmltypes) for the compiler, beside that of the
+# library (LUMAKIT_QML_TOOLING): with the type of App known, look-ups need no names at run time.
 function(lumakit_add_qml target)
     cmake_parse_arguments(arg "" "NAME" "IMPORTS;FILES" ${ARGN})
     find_package(Qt6 6.8 REQUIRED COMPONENTS Qml)
@@ -31,7 +32,7 @@ function(lumakit_add_qml target)
 
     set(import_arguments "")
     set(import_files "")
-    foreach(import IN LISTS arg_IMPORTS)
+    foreach(import IN LISTS arg_IMPORTS ITEMS ${LUMAKIT_QML_TOOLING})
         list(APPEND import_arguments -I ${import})
         file(GLOB_RECURSE found CONFIGURE_DEPENDS ${import}/*.qmltypes ${import}/qmldir)
         list(APPEND import_files ${found})

@@ -6,5 +6,5 @@ set(LUMAKIT_QML_FILES
 )
 list(TRANSFORM LUMAKIT_QML_FILES PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
 
-# Type information of the host's module: with the type of App known, look-ups need no names at run time.
+# Type information of the host's module, for the QML compiler and other tools.
 set(LUMAKIT_QML_TOOLING ${CMAKE_CURRENT_LIST_DIR}/tooling)

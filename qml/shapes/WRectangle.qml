@@ -16,7 +16,8 @@ Rectangle {
     property var controlsTarget: null
     // The name of the colour-set token; without one the rectangle is transparent.
     property string backgroundColorSetName: ""
-    property var backgroundColorSet: App.getColorSet(backgroundColorSetName, themeType)
+    // The comparison keeps the dependency on the theme: a read without a use is compiled away.
+    property var backgroundColorSet: themeType === undefined ? null : App.getColorSet(backgroundColorSetName)
 
     color: ThemeUtils.getColor(controlsTarget ?? root, backgroundColorSet)
 }

@@ -25,29 +25,45 @@ void mapSourceToTarget(QPainter *painter, QRectF target, QRectF source)
     painter->scale(sx, sy);
 }
 
+// No outline, with the joins that an SVG viewer starts from.
+const QPen &svgPen()
+{
+    static const QPen pen = [] {
+        QPen svgPen(Qt::NoBrush, 1, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
+        svgPen.setMiterLimit(4);
+        return svgPen;
+    }();
+    return pen;
+}
+
+// Leaves the painter's state changed.
+void paintNode(QPainter *painter, QSvgNode *node, QSvgExtraStates &states, const QRectF &rect, const QColor &color,
+               double opacity)
+{
+    if (node->displayMode() == QSvgNode::NoneMode)
+        return;
+    const QSvgTinyDocument *document = node->document();
+    const QRectF source = document ? document->viewBox() : node->bounds();
+    QRectF target = rect;
+    DrawUtils::fitRectangle(target, source.width() / source.height());
+    mapSourceToTarget(painter, target, source);
+
+    painter->setPen(svgPen());
+    painter->setBrush(QBrush(color, Qt::SolidPattern));
+    painter->setOpacity(opacity);
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    node->draw(painter, states);
+}
+
 } // namespace
 
 void DrawUtils::drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &states, const QRectF &rect,
                         const QColor &color, double opacity)
 {
-    if (!painter || !node || node->displayMode() == QSvgNode::NoneMode)
+    if (!painter || !node)
         return;
     painter->save();
-
-    const QSvgTinyDocument *document = node->document();
-    const QRectF source = document ? document->viewBox() : node->bounds();
-    QRectF target = rect;
-    fitRectangle(target, source.width() / source.height());
-    mapSourceToTarget(painter, target, source);
-
-    QPen pen(Qt::NoBrush, 1, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
-    pen.setMiterLimit(4);
-    painter->setPen(pen);
-    painter->setBrush(QBrush(color, Qt::SolidPattern));
-    painter->setOpacity(opacity);
-    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    node->draw(painter, states);
-
+    paintNode(painter, node, states, rect, color, opacity);
     painter->restore();
 }
 
@@ -62,7 +78,7 @@ QPixmap DrawUtils::renderPixmap(QSvgNode *node, const QRectF &rect, const QSize 
     pixmap.fill(background);
     QPainter painter(&pixmap);
     QSvgExtraStates states;
-    drawSVG(&painter, node, states, rect, color, 1.0);
+    paintNode(&painter, node, states, rect, color, 1.0);
     return pixmap;
 }
 

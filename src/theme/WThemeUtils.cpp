@@ -43,7 +43,7 @@ QColor resolveColor(const QJsonValue &value, const std::unordered_map<std::strin
 QJsonObject WThemeUtils::readJsonObject(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     return QJsonDocument::fromJson(file.readAll()).object();
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+/// Measures a subject against its peer in one run and prints a row of the table: medians of wall and of this thread's
+/// CPU time a call, their ratios, and the limit that the ratio of CPU times is held against.
+namespace Measurement {
+
+struct Contender
+{
+    QString name;
+    std::function<void()> run; ///< does the work once, or `calls` times
+};
+
+/// Both run in turn, `repetitions` times after a warm-up each, so that a slow moment of the machine hits both. Returns
+/// whether the ratio is within the limit.
+bool compare(const QString &subject, const Contender &ours, const Contender &peer, double limit, int calls = 1,
+             int repetitions = 15);
+
+/// The table's head.
+void printHead(const QString &title);
+
+} // namespace Measurement

@@ -1,0 +1,80 @@
+// The gallery's window: a list of pages, the theme, the font scale and the direction, and the current page.
+import QtQuick
+import QtQuick.Layouts
+import Corvane 1.0
+import Gallery 1.0
+
+WRectangle {
+    id: root
+
+    readonly property list<string> pages: ["Tokens", "Fonts", "Icons"]
+    readonly property list<real> fontScales: [0.5, 0.75, 1, 1.25, 1.5]
+    readonly property int pageCount: pages.length
+    readonly property string pageName: pages[currentPage].toLowerCase()
+    readonly property int screenfuls: page.item ? page.item.screenfuls : 0
+    property int currentPage: 0
+    property int screenful: 0
+
+    implicitWidth: 1280
+    implicitHeight: 840
+    backgroundColorSetName: "panel-primary-background"
+
+    LayoutMirroring.enabled: Gallery.mirrored
+    LayoutMirroring.childrenInherit: true
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        WRectangle {
+            Layout.fillWidth: true
+            implicitHeight: toolbar.implicitHeight + 24
+            backgroundColorSetName: "panel-secondary-background"
+
+            Flow {
+                id: toolbar
+
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                anchors.margins: 16
+                spacing: 24
+
+                GalleryChoice {
+                    options: root.pages
+                    current: root.currentPage
+                    onChosen: index => root.currentPage = index
+                }
+                GalleryChoice {
+                    options: ["Light", "Dark", "High contrast"]
+                    current: Gallery.themeModes.indexOf(App.themeMode)
+                    onChosen: index => App.themeMode = Gallery.themeModes[index]
+                }
+                GalleryChoice {
+                    options: ["50 %", "75 %", "100 %", "125 %", "150 %"]
+                    current: root.fontScales.indexOf(App.fontScaleFactor)
+                    onChosen: index => App.fontScaleFactor = root.fontScales[index]
+                }
+                GalleryButton {
+                    text: "Right to left"
+                    checkable: true
+                    checked: Gallery.mirrored
+                    onToggled: Gallery.mirrored = checked
+                }
+            }
+        }
+        WRectangle {
+            Layout.fillWidth: true
+            implicitHeight: 1
+            backgroundColorSetName: "separator-primary"
+        }
+        Loader {
+            id: page
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            source: "qrc:/Qml/Gallery" + root.pages[root.currentPage] + "Page.qml"
+            onLoaded: item.screenful = Qt.binding(() => root.screenful)
+        }
+    }
+}
