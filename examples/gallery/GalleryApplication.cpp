@@ -15,7 +15,7 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     , m_isDarkTheme(GalleryData::isDark(getThemeMode()))
     , m_isHighContrastTheme(GalleryData::isHighContrast(getThemeMode()))
 {
-    setLogoPngPath(u":/Resources/logo.png"_s);
+    setLogoSvgPath(u":/Resources/logo.svg"_s);
     connect(this, &IWApplication::themeModeChanged, this, &GalleryApplication::updateTheme);
 
     constexpr auto Module = "Corvane";

@@ -22,27 +22,32 @@ PictureRenderer::PictureRenderer(GalleryApplication *application, WQuickView *vi
 
 int PictureRenderer::run()
 {
-    const int pages = m_view->rootObject()->property("pageCount").toInt();
-    bool complete = pages > 0;
     for (const QString &mode : GalleryData::themeModes()) {
         if (mode != m_application->getThemeMode())
             m_application->setThemeMode(mode);
-        for (int page = 0; page < pages; ++page)
-            complete &= renderPage(page, mode);
+        if (!renderPages(mode))
+            return 1;
     }
 
     m_application->setThemeMode(GalleryData::themeModes().first());
     auto *data = m_view->engine()->singletonInstance<GalleryData *>(u"Gallery"_s, u"Gallery"_s);
     data->setMirrored(true);
-    for (int page = 0; page < pages; ++page)
-        complete &= renderPage(page, u"mirrored"_s);
+    if (!renderPages(u"mirrored"_s))
+        return 1;
     data->setMirrored(false);
 
     m_application->setFontScaleFactor(1.5F);
-    for (int page = 0; page < pages; ++page)
-        complete &= renderPage(page, u"large"_s);
-    m_application->setFontScaleFactor(1.0F);
-    return complete ? 0 : 1;
+    return renderPages(u"large"_s) ? 0 : 1;
+}
+
+bool PictureRenderer::renderPages(const QString &suffix)
+{
+    const int pages = m_view->rootObject()->property("pageCount").toInt();
+    for (int page = 0; page < pages; ++page) {
+        if (!renderPage(page, suffix))
+            return false;
+    }
+    return pages > 0;
 }
 
 bool PictureRenderer::renderPage(int page, const QString &suffix)
@@ -50,19 +55,19 @@ bool PictureRenderer::renderPage(int page, const QString &suffix)
     QQuickItem *root = m_view->rootObject();
     root->setProperty("currentPage", page);
     const QString name = root->property("pageName").toString();
-    // A page that is longer than the window shows itself a screenful at a time.
+    // A page that is longer than the window shows itself a screenful at a time; how many is known once it is laid out.
     const int screenfuls = root->property("screenfuls").toInt();
-    bool complete = true;
     for (int screenful = 0; screenful < screenfuls; ++screenful) {
         root->setProperty("screenful", screenful);
         const QString number = screenfuls > 1 ? u"-%1"_s.arg(screenful + 1) : QString();
-        complete &= save(u"%1%2-%3.png"_s.arg(name, number, suffix));
+        if (!layOut() || !save(m_folder + u"/%1%2-%3.png"_s.arg(name, number, suffix)))
+            return false;
     }
     root->setProperty("screenful", 0);
-    return complete;
+    return screenfuls > 0;
 }
 
-bool PictureRenderer::save(const QString &name)
+bool PictureRenderer::layOut()
 {
     // Two frames: the first lays out what the change has created.
     for (int frame = 0; frame < 2; ++frame) {
@@ -70,11 +75,20 @@ bool PictureRenderer::save(const QString &name)
         connect(m_view, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
         QTimer::singleShot(5000, &loop, [&loop] { loop.exit(1); });
         m_view->update();
-        if (loop.exec() != 0)
+        if (loop.exec() != 0) {
+            QTextStream(stderr) << tr("The window shows nothing") << Qt::endl;
             return false;
+        }
     }
-    const QString path = m_folder + u'/' + name;
-    const bool saved = m_view->grabWindow().save(path);
-    QTextStream(stdout) << (saved ? path : tr("Cannot write %1").arg(path)) << Qt::endl;
-    return saved;
+    return true;
+}
+
+bool PictureRenderer::save(const QString &path)
+{
+    if (!m_view->grabWindow().save(path)) {
+        QTextStream(stderr) << tr("Cannot write %1").arg(path) << Qt::endl;
+        return false;
+    }
+    QTextStream(stdout) << path << Qt::endl;
+    return true;
 }

@@ -15,12 +15,15 @@ class PictureRenderer : public QObject
 public:
     PictureRenderer(GalleryApplication *application, WQuickView *view, const QString &folder);
 
-    /// Renders, prints the path of each file, and returns the exit code of the program: 0 when all were written.
+    /// Renders, prints the path of each file, and returns the exit code of the program: 0 when all were written. The
+    /// first file that cannot be written ends it.
     int run();
 
 private:
+    bool renderPages(const QString &suffix);
     bool renderPage(int page, const QString &suffix);
-    bool save(const QString &name);
+    bool layOut();
+    bool save(const QString &path);
 
     GalleryApplication *m_application;
     WQuickView *m_view;

@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
@@ -16,7 +18,9 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(u"Gallery"_s);
 
     // Pictures start from the defaults and leave the user's choice alone; the theme is read on construction.
-    const bool renders = std::any_of(argv, argv + argc, [](const char *argument) { return QLatin1StringView(argument) == "--render"_L1; });
+    const bool renders = std::any_of(argv, argv + argc, [](const char *argument) {
+        return QLatin1StringView(argument) == "--render"_L1 || QLatin1StringView(argument).startsWith("--rendor="_L1);
+    });
     const QTemporaryDir settings;
     if (renders) {
         QSettings::setDefaultFormat(QSettings::IniFormat);

@@ -10,6 +10,4 @@ bool NativeFrame::answerFixed(void *)
     return false;
 }
 
-void NativeFrame::extend(QWindow *)
-{
-}
+void NativeFrame::extend(QWindow *) { }

@@ -7,6 +7,4 @@ WQmlController::WQmlController(QObject *parent)
 
 WQmlController::~WQmlController() = default;
 
-void WQmlController::init(const QMap<QString, QVariant> &)
-{
-}
+void WQmlController::init(const QMap<QString, QVariant> &) { }

@@ -24,7 +24,8 @@ WQmlEngine *applicationEngine()
     const auto *application = qobject_cast<IWApplication *>(QCoreApplication::instance());
     WQmlEngine *engine = application ? application->getQmlEngine() : nullptr;
     if (!engine)
-        qWarning() << "Unable to create QML view! WQmlEngine is not attached to WApplication! This should never happen!";
+        qWarning()
+            << "Unable to create QML view! WQmlEngine is not attached to WApplication! This should never happen!";
     return engine;
 }
 
@@ -71,8 +72,8 @@ QPointer<WQuickView> WQmlEngine::createQmlDialog(const QString &source, QWindow 
                                                  const ControllerCallback &callback, bool fixedNativeFilter)
 {
     const QPointer<QWindow> owner = parent;
-    const auto view = createView<WQuickView>(source, parent, fixedNativeFilter ? FilterKind::Fixed : FilterKind::Resizable,
-                                             initialProperties, callback);
+    const auto view = createView<WQuickView>(
+        source, parent, fixedNativeFilter ? FilterKind::Fixed : FilterKind::Resizable, initialProperties, callback);
     if (!view)
         return view;
     ViewOptions options;
@@ -85,22 +86,25 @@ QPointer<WQuickView> WQmlEngine::createQmlDialog(const QString &source, QWindow 
 }
 
 void WQmlEngine::createQmlComponent(const QString &source, QObject *parent,
-                                    const QMap<QString, QVariant> &initialProperties,
-                                    const ComponentCallback &callback)
+                                    const QMap<QString, QVariant> &initialProperties, const ComponentCallback &callback)
 {
     if (source.isEmpty()) {
         qWarning() << "Trying to create a Qml view for an empty source! This should never happen! Resource: " << source;
         return;
     }
+    const QPointer<QObject> owner = parent;
     WQmlEngine *engine = applicationEngine();
     if (!engine)
         return;
     Q_EMIT engine->qmlViewStatusChanged(Creating, source);
+    if (parent && !owner)
+        return; // a listener deleted it
 
     auto *component = new QQmlComponent(engine, parent);
-    const auto handleStatus = [=, owner = QPointer<QObject>(parent)](QQmlComponent::Status status) {
+    const auto handleStatus = [=](QQmlComponent::Status status) {
         if (status == QQmlComponent::Loading || status == QQmlComponent::Null)
             return;
+        component->setParent(nullptr); // the callback may delete the owner, but not what is emitting
         component->deleteLater(); // what it makes does not need it any more
         if (status != QQmlComponent::Ready)
             return; // not reported: callers of components wait for the callback only
@@ -111,11 +115,10 @@ void WQmlEngine::createQmlComponent(const QString &source, QObject *parent,
         object->setObjectName(baseName(source));
         connect(object, &QObject::destroyed, engine,
                 [engine, source] { Q_EMIT engine->qmlViewStatusChanged(DestroyedView, source); });
-        engine->initializeController(object, source, initialProperties,
-                                     [object, callback](WQmlController *controller) {
-                                         if (callback && object)
-                                             callback(object, controller);
-                                     });
+        engine->initializeController(object, source, initialProperties, [object, callback](WQmlController *controller) {
+            if (callback && object)
+                callback(object, controller);
+        });
     };
     connect(component, &QQmlComponent::statusChanged, component, handleStatus);
     component->loadUrl(sourceUrl(source), QQmlComponent::Asynchronous);
@@ -229,8 +232,7 @@ void WQmlEngine::watchView(WQuickView *view, const QString &source)
             connect(view, &WQuickView::finishedRendering, this, &WQmlEngine::finishedRendering);
         connect(this, &WQmlEngine::reloadAllQmlViews, view, [view] { reloadView(view); });
     }
-    connect(view, &QObject::destroyed, this,
-            [this, source] { Q_EMIT qmlViewStatusChanged(DestroyedView, source); });
+    connect(view, &QObject::destroyed, this, [this, source] { Q_EMIT qmlViewStatusChanged(DestroyedView, source); });
 }
 
 void WQmlEngine::handleViewStatus(WQuickView *view, int status, const QString &source,

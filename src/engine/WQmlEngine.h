@@ -25,12 +25,12 @@ class LUMAKITQML_EXPORT WQmlEngine : public QQmlEngine
 
 public:
     enum QmlViewStatus {
-        Creating = 0,            ///< work has begun; with a message: the loaded view has no root object
-        Initializing = 1,        ///< loaded; the controller's init() is next
-        Ready = 2,               ///< the controller is initialised and the callback was called
+        Creating = 0, ///< work has begun; with a message: the loaded view has no root object
+        Initializing = 1, ///< loaded; the controller's init() is next
+        Ready = 2, ///< the controller is initialised and the callback was called
         DestroyedController = 3, ///< the controller is gone
-        DestroyedView = 4,       ///< the view or component object is gone
-        Error = 5,               ///< the QML cannot be loaded, or it has more than one controller
+        DestroyedView = 4, ///< the view or component object is gone
+        Error = 5, ///< the QML cannot be loaded, or it has more than one controller
     };
     Q_ENUM(QmlViewStatus)
 

@@ -64,7 +64,8 @@ void WQuickView::showAt(const QPoint &pos, QScreen *targetScreen)
         targetScreen = screen();
     if (!targetScreen)
         return;
-    setScreen(targetScreen);
+    if (targetScreen != screen()) // a child window is always on its parent's, and Qt warns when it is set
+        setScreen(targetScreen);
     setPosition(ViewPlacement::positionOnScreen(QRect(pos, size()), targetScreen->availableGeometry()));
     if (m_options.dispatchShowEnabled)
         dispatchShow();

@@ -10,7 +10,7 @@ class LUMAKITQML_EXPORT FontManagerEnum : public QObject
     Q_OBJECT
 
 public:
-    enum FontScalingFactor {
+    enum FontScalingFactor : int {
         Small = -1,
         Regular = 0,
         Medium = 1,
@@ -19,7 +19,7 @@ public:
     Q_ENUM(FontScalingFactor)
 
     /// The kinds of view whose text size is chosen apart.
-    enum FontType {
+    enum FontType : int {
         Default = 0,
         MessagingView = 1,
         MeetingView = 2,

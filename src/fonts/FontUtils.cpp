@@ -23,7 +23,8 @@ bool FontUtils::isMonospaceFont(const WFont &font)
     const QStringList monospace = FontFamilies::list(Monospace);
     const QStringList families = font.families();
     return monospace.contains(font.family())
-        || std::any_of(families.begin(), families.end(), [&](const QString &family) { return monospace.contains(family); });
+        || std::any_of(families.begin(), families.end(),
+                       [&](const QString &family) { return monospace.contains(family); });
 }
 
 double FontUtils::pixelSizeToPointSize(int pixelSize)

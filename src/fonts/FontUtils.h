@@ -10,12 +10,12 @@ namespace FontUtils {
 
 /// A list of families, the first preferred. An unknown value stands for "Segoe UI".
 enum SupportedFontFamily : quint8 {
-    Brand,            ///< "TarvoSansTT"
-    Monospace,        ///< "Consolas", "Courier New", "monospace"
+    Brand, ///< "TarvoSansTT"
+    Monospace, ///< "Consolas", "Courier New", "monospace"
     SegoeUIWithEmoji, ///< "Segoe UI", "Segoe UI Emoji"
-    Emoji,            ///< "Segoe UI Emoji"
-    SegoeUI,          ///< "Segoe UI"
-    Ebrima,           ///< "Ebrima"
+    Emoji, ///< "Segoe UI Emoji"
+    SegoeUI, ///< "Segoe UI"
+    Ebrima, ///< "Ebrima"
 };
 
 /// The metrics of a token's font without fallback families.

@@ -13,7 +13,7 @@ class LUMAKITQML_EXPORT WFont : public QFont
     Q_GADGET
 
 public:
-    enum Token {
+    enum Token : int {
         Default,
         Title,
         Header,

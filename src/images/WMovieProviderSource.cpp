@@ -5,6 +5,4 @@ WMovieProviderSource::WMovieProviderSource(QObject *parent)
 {
 }
 
-void WMovieProviderSource::fetch(const QString &)
-{
-}
+void WMovieProviderSource::fetch(const QString &) { }

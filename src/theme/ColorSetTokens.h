@@ -653,7 +653,10 @@ inline constexpr auto ColorSetTokens = std::to_array<QLatin1StringView>({
 });
 
 static_assert(ColorSetTokens.size() == 642);
-static_assert(std::adjacent_find(ColorSetTokens.begin(), ColorSetTokens.end(), [](QLatin1StringView a, QLatin1StringView b) {
-                  return std::string_view(a.data(), size_t(a.size())) >= std::string_view(b.data(), size_t(b.size()));
-              }) == ColorSetTokens.end(),
+static_assert(std::adjacent_find(ColorSetTokens.begin(), ColorSetTokens.end(),
+                                 [](QLatin1StringView a, QLatin1StringView b) {
+                                     return std::string_view(a.data(), size_t(a.size()))
+                                         >= std::string_view(b.data(), size_t(b.size()));
+                                 })
+                  == ColorSetTokens.end(),
               "the order of the names is their identifiers");

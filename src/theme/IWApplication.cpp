@@ -83,9 +83,7 @@ IWMovieProviderSource *IWApplication::getMovieProviderSource()
     return nullptr;
 }
 
-void IWApplication::prepareQmlEngine(WQmlEngine *)
-{
-}
+void IWApplication::prepareQmlEngine(WQmlEngine *) { }
 
 void IWApplication::loadColorSets()
 {

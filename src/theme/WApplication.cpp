@@ -88,6 +88,4 @@ bool WApplication::isInFocus()
     return applicationState() == Qt::ApplicationActive;
 }
 
-void WApplication::prepareHost()
-{
-}
+void WApplication::prepareHost() { }

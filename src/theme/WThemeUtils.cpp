@@ -92,14 +92,14 @@ std::unordered_map<std::string, QColor> WThemeUtils::parseWColorsFromJson(const 
     return palette;
 }
 
-std::unordered_map<std::string, WColorSet>
-WThemeUtils::parseWColorSetsFromJson(const QString &path, const std::unordered_map<std::string, QColor> &colors)
+std::unordered_map<std::string, WColorSet> WThemeUtils::parseWColorSetsFromJson(
+    const QString &path, const std::unordered_map<std::string, QColor> &colors)
 {
     return parseWColorSetsFromJson(readJsonObject(path), colors);
 }
 
-std::unordered_map<std::string, WColorSet>
-WThemeUtils::parseWColorSetsFromJson(const QJsonObject &json, const std::unordered_map<std::string, QColor> &colors)
+std::unordered_map<std::string, WColorSet> WThemeUtils::parseWColorSetsFromJson(
+    const QJsonObject &json, const std::unordered_map<std::string, QColor> &colors)
 {
     const QJsonObject tokens = json.value("tokens"_L1).toObject();
     if (tokens.isEmpty()) {
@@ -112,7 +112,9 @@ WThemeUtils::parseWColorSetsFromJson(const QJsonObject &json, const std::unorder
     for (auto token = tokens.begin(); token != tokens.end(); ++token) {
         const QJsonObject states = token.value().toObject();
         const QColor normal = resolveColor(states.value("normal"_L1), colors, QColor());
-        const auto stateColor = [&](QLatin1StringView state) { return resolveColor(states.value(state), colors, normal); };
+        const auto stateColor = [&](QLatin1StringView state) {
+            return resolveColor(states.value(state), colors, normal);
+        };
         WColorSet colorSet(token.key(), normal, stateColor("hovered"_L1), stateColor("pressed"_L1),
                            stateColor("disabled"_L1), stateColor("focused"_L1), stateColor("checked"_L1));
         if (!colorSet.isValid()) {

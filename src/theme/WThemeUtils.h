@@ -23,10 +23,10 @@ LUMAKITQML_EXPORT std::unordered_map<std::string, QColor> parseWColorsFromJson(c
 
 /// The colour sets of a token file. With an empty palette colours are read as rgba objects, else as palette names.
 /// One token without a usable normal colour empties the result.
-LUMAKITQML_EXPORT std::unordered_map<std::string, WColorSet>
-parseWColorSetsFromJson(const QString &path, const std::unordered_map<std::string, QColor> &colors);
-LUMAKITQML_EXPORT std::unordered_map<std::string, WColorSet>
-parseWColorSetsFromJson(const QJsonObject &json, const std::unordered_map<std::string, QColor> &colors);
+LUMAKITQML_EXPORT std::unordered_map<std::string, WColorSet> parseWColorSetsFromJson(
+    const QString &path, const std::unordered_map<std::string, QColor> &colors);
+LUMAKITQML_EXPORT std::unordered_map<std::string, WColorSet> parseWColorSetsFromJson(
+    const QJsonObject &json, const std::unordered_map<std::string, QColor> &colors);
 
 /// All colour sets of a theme mode: ":/Themes/meridian_<mode>.json", then what ":/Themes/<mode>.json" adds, then the
 /// built-in "transparent" (also found as "#00000000").

@@ -11,7 +11,8 @@ WRectangle {
     readonly property list<real> fontScales: [0.5, 0.75, 1, 1.25, 1.5]
     readonly property int pageCount: pages.length
     readonly property string pageName: pages[currentPage].toLowerCase()
-    readonly property int screenfuls: page.item ? page.item.screenfuls : 0
+    readonly property GalleryPage page: loader.item as GalleryPage
+    readonly property int screenfuls: page ? page.screenfuls : 0
     property int currentPage: 0
     property int screenful: 0
 
@@ -21,6 +22,12 @@ WRectangle {
 
     LayoutMirroring.enabled: Gallery.mirrored
     LayoutMirroring.childrenInherit: true
+
+    Binding {
+        target: root.page
+        property: "screenful"
+        value: root.screenful
+    }
 
     ColumnLayout {
         anchors.fill: parent
@@ -69,12 +76,11 @@ WRectangle {
             backgroundColorSetName: "separator-primary"
         }
         Loader {
-            id: page
+            id: loader
 
             Layout.fillWidth: true
             Layout.fillHeight: true
             source: "qrc:/Qml/Gallery" + root.pages[root.currentPage] + "Page.qml"
-            onLoaded: item.screenful = Qt.binding(() => root.screenful)
         }
     }
 }

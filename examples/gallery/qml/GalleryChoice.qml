@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 // One of several: a row of buttons of which one is checked.
 import QtQuick
 

@@ -1,106 +1,113 @@
+pragma ComponentBehavior: Bound
+
 // The font tokens at the application's scale, and the roles that a view scales by itself.
 import QtQuick
 import QtQuick.Layouts
 import Corvane 1.0
 import Gallery 1.0
 
-Flickable {
+GalleryPage {
     id: root
 
-    readonly property int screenfuls: Math.ceil(contentHeight / Math.max(1, height))
-    property int screenful: 0
     readonly property var scaledFonts: FontManager.getFont(FontManagerEnum.MessagingView)
 
-    contentHeight: columns.implicitHeight + 32
-    contentY: Math.min(screenful * height, Math.max(0, contentHeight - height))
+    screenfuls: Math.ceil(scroll.contentHeight / Math.max(1, height))
 
-    RowLayout {
-        id: columns
+    Flickable {
+        id: scroll
 
-        x: 16
-        y: 16
-        width: root.width - 32
-        spacing: 32
+        anchors.fill: parent
+        contentHeight: columns.implicitHeight + 32
+        contentY: Math.min(root.screenful * height, Math.max(0, contentHeight - height))
 
-        ColumnLayout {
-            Layout.fillWidth: true
-            Layout.preferredWidth: 1
-            Layout.alignment: Qt.AlignTop
-            spacing: 6
+        RowLayout {
+            id: columns
 
-            GalleryText {
-                token: 2 // Header
-                text: "Tokens"
-            }
-            Repeater {
-                model: Gallery.fontTokens
+            x: 16
+            y: 16
+            width: root.width - 32
+            spacing: 32
 
-                RowLayout {
-                    id: tokenRow
+            ColumnLayout {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                Layout.alignment: Qt.AlignTop
+                spacing: 6
 
-                    required property int index
-                    required property string modelData
+                GalleryText {
+                    token: 2 // Header
+                    text: "Tokens"
+                }
+                Repeater {
+                    model: Gallery.fontTokens
 
-                    spacing: 16
+                    RowLayout {
+                        id: tokenRow
 
-                    GalleryText {
-                        id: sample
+                        required property int index
+                        required property string modelData
 
-                        Layout.fillWidth: true
-                        token: tokenRow.index
-                        text: tokenRow.modelData
-                    }
-                    GalleryText {
-                        colorSetName: "label-secondary-text"
-                        text: Gallery.describe(sample.font)
+                        spacing: 16
+
+                        GalleryText {
+                            id: sample
+
+                            Layout.fillWidth: true
+                            token: tokenRow.index
+                            text: tokenRow.modelData
+                        }
+                        GalleryText {
+                            colorSetName: "label-secondary-text"
+                            text: Gallery.describe(sample.font)
+                        }
                     }
                 }
             }
-        }
-        ColumnLayout {
-            Layout.fillWidth: true
-            Layout.preferredWidth: 1
-            Layout.alignment: Qt.AlignTop
-            spacing: 6
+            ColumnLayout {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                Layout.alignment: Qt.AlignTop
+                spacing: 6
 
-            GalleryText {
-                token: 2
-                text: "Roles of a messaging view"
-            }
-            GalleryChoice {
-                id: factors
-
-                options: ["Small", "Regular", "Medium", "Large"]
-                current: 1
-                onChosen: index => {
-                    current = index;
-                    FontManager.setScalingFactor(FontManagerEnum.MessagingView, index - 1);
+                GalleryText {
+                    token: 2
+                    text: "Roles of a messaging view"
                 }
-            }
-            Repeater {
-                model: Gallery.fontRoles
+                GalleryChoice {
+                    id: factors
 
-                RowLayout {
-                    id: roleRow
-
-                    required property string modelData
-
-                    spacing: 16
-
-                    Text {
-                        id: roleSample
-
-                        Layout.fillWidth: true
-                        color: Gallery.colorSet("label-primary-text", App.themeMode).normal
-                        elide: Text.ElideRight
-                        font: root.scaledFonts[roleRow.modelData]
-                        text: roleRow.modelData
-                        textFormat: Text.PlainText
-                        horizontalAlignment: Text.AlignLeft
+                    options: ["Small", "Regular", "Medium", "Large"]
+                    current: 1
+                    onChosen: index => {
+                        current = index;
+                        FontManager.setScalingFactor(FontManagerEnum.MessagingView, index - 1);
                     }
-                    GalleryText {
-                        colorSetName: "label-secondary-text"
-                        text: Gallery.describe(roleSample.font)
+                }
+                Repeater {
+                    model: Gallery.fontRoles
+
+                    RowLayout {
+                        id: roleRow
+
+                        required property string modelData
+
+                        spacing: 16
+
+                        Text {
+                            id: roleSample
+
+                            Layout.fillWidth: true
+                            color: Gallery.colorSet("label-primary-text", App.themeMode).normal
+                            elide: Text.ElideRight
+                            font: root.scaledFonts[roleRow.modelData]
+                            text: roleRow.modelData
+                            textFormat: Text.PlainText
+                            horizontalAlignment: Text.AlignLeft
+                        }
+                        GalleryText {
+                            colorSetName: "label-secondary-text"
+                            text: Gallery.describe(roleSample.font)
+                        }
                     }
                 }
             }

@@ -1,14 +1,13 @@
+pragma ComponentBehavior: Bound
+
 // Every icon of the gallery, in any colour and at several sizes.
 import QtQuick
 import QtQuick.Layouts
 import Corvane 1.0
 import Gallery 1.0
 
-Item {
+GalleryPage {
     id: root
-
-    readonly property int screenfuls: Math.ceil(grid.contentHeight / Math.max(1, grid.height))
-    property int screenful: 0
 
     readonly property list<string> colorSetNames: [
         "label-primary-text", "label-secondary-text", "hyperlink-accent-text", "label-success-text",
@@ -17,6 +16,8 @@ Item {
     readonly property list<int> sizes: [16, 20, 24, 32, 48]
     property int colorIndex: 0
     property int sizeIndex: 2
+
+    screenfuls: Math.ceil(grid.contentHeight / Math.max(1, grid.height))
 
     ColumnLayout {
         anchors.fill: parent
@@ -43,6 +44,8 @@ Item {
                     model: root.colorSetNames
 
                     GalleryButton {
+                        id: colorButton
+
                         required property int index
                         required property string modelData
 
@@ -55,7 +58,7 @@ Item {
                                 width: 16
                                 height: 16
                                 radius: 8
-                                color: Gallery.colorSet(parent.parent.modelData, App.themeMode).normal
+                                color: Gallery.colorSet(colorButton.modelData, App.themeMode).normal
                             }
                         }
                         onClicked: root.colorIndex = index

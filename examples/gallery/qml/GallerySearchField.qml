@@ -23,7 +23,7 @@ T.TextField {
 
     Text {
         x: control.leftPadding
-        width: control.availableWidth
+        width: control.width - control.leftPadding - control.rightPadding
         height: control.height
         visible: control.length === 0 && control.preeditText === ""
         verticalAlignment: Text.AlignVCenter

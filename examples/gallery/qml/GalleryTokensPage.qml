@@ -1,16 +1,17 @@
+pragma ComponentBehavior: Bound
+
 // Every colour-set token as a swatch in its six states.
 import QtQuick
 import QtQuick.Layouts
 import Corvane 1.0
 import Gallery 1.0
 
-Item {
+GalleryPage {
     id: root
 
-    readonly property int screenfuls: Math.ceil(grid.contentHeight / Math.max(1, grid.height))
-    property int screenful: 0
-
     readonly property list<string> states: ["normal", "hovered", "pressed", "disabled", "focused", "checked"]
+
+    screenfuls: Math.ceil(grid.contentHeight / Math.max(1, grid.height))
 
     ColumnLayout {
         anchors.fill: parent

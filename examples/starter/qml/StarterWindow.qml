@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 // The window: a greeting, which arrives as a component of its own, and two links.
 import QtQuick
 import Corvane 1.0
@@ -20,8 +22,8 @@ WRectangle {
 
         Repeater {
             model: [
-                { text: App.isDarkTheme ? "Light theme" : "Dark theme", action: () => App.toggleTheme() },
-                { text: "About", action: () => App.showAbout() }
+                { label: () => App.isDarkTheme ? "Light theme" : "Dark theme", action: () => App.toggleTheme() },
+                { label: () => "About", action: () => App.showAbout() }
             ]
 
             Text {
@@ -32,7 +34,7 @@ WRectangle {
                 activeFocusOnTab: true
                 color: App.themeMode === "" ? "transparent" : App.getColorSet("hyperlink-accent-text").normal
                 font.underline: activeFocus
-                text: modelData.text
+                text: modelData.label()
                 textFormat: Text.PlainText
 
                 Accessible.role: Accessible.Link
