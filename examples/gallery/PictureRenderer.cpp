@@ -56,6 +56,8 @@ bool PictureRenderer::renderPage(int page, const QString &suffix)
     root->setProperty("currentPage", page);
     const QString name = root->property("pageName").toString();
     // A page that is longer than the window shows itself a screenful at a time; how many is known once it is laid out.
+    if (!layOut())
+        return false;
     const int screenfuls = root->property("screenfuls").toInt();
     for (int screenful = 0; screenful < screenfuls; ++screenful) {
         root->setProperty("screenful", screenful);

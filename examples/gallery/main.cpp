@@ -19,7 +19,7 @@ int main(int argc, char **argv)
 
     // Pictures start from the defaults and leave the user's choice alone; the theme is read on construction.
     const bool renders = std::any_of(argv, argv + argc, [](const char *argument) {
-        return QLatin1StringView(argument) == "--render"_L1 || QLatin1StringView(argument).startsWith("--rendor="_L1);
+        return QLatin1StringView(argument) == "--render"_L1 || QLatin1StringView(argument).startsWith("--render="_L1);
     });
     const QTemporaryDir settings;
     if (renders) {

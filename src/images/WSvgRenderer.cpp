@@ -93,6 +93,8 @@ void WSvgRenderer::draw(QPainter *painter, const QRectF &rect, const QColor &col
         DrawUtils::drawSVG(painter, getSvgNode(), states, rect, color, opacity);
         return;
     }
+    if (!painter)
+        return;
     QRectF target = rect;
     const QRectF viewBox = m_renderer->viewBoxF();
     DrawUtils::fitRectangle(target, viewBox.width() / viewBox.height());
@@ -101,7 +103,7 @@ void WSvgRenderer::draw(QPainter *painter, const QRectF &rect, const QColor &col
 
 void WSvgRenderer::drawScalingHeight(QPainter *painter, const QRectF &rect) const
 {
-    if (!m_renderer)
+    if (!m_renderer || !painter)
         return;
     // Only the width is scaled, and the position is not used: callers clip to the strip they want.
     const QRectF viewBox = m_renderer->viewBoxF();

@@ -15,6 +15,7 @@ GalleryPage {
 
     Flickable {
         id: scroll
+        clip: true
 
         anchors.fill: parent
         contentHeight: columns.implicitHeight + 32
