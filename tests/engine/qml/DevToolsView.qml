@@ -1,0 +1,7 @@
+// The host's inspector, which is neither timed nor reloaded.
+import QtQuick
+
+Item {
+    width: 50
+    height: 50
+}
