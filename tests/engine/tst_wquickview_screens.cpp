@@ -15,6 +15,8 @@ private Q_SLOTS:
     void initTestCase();
     void showAt_data();
     void showAt();
+    void showAtTakesTheScreen_data();
+    void showAtTakesTheScreen();
     void showAtOwnScreen();
     void showAtWidget();
     void noScreenChangeWithoutNeed();
@@ -75,6 +77,30 @@ void tst_WQuickViewScreens::showAt()
     if (screen(name)->geometry().contains(expected)) {
         QCOMPARE(view.screen()->name(), name);
         QCOMPARE(screenChanged.count(), name == "main"_L1 ? 0 : 1);
+    }
+}
+
+void tst_WQuickViewScreens::showAtTakesTheScreen_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("main") << u"main"_s;
+    QTest::newRow("left") << u"left"_s;
+    QTest::newRow("right") << u"right"_s;
+}
+
+// Before it is shown: a window that is on display changes its screen with its position by itself.
+void tst_WQuickViewScreens::showAtTakesTheScreen()
+{
+    QFETCH(const QString, name);
+    ViewOptions options;
+    options.dispatchShowEnabled = true;
+    WQuickView view; // a plain one, which is not shown later either
+    view.setViewOptions(options);
+    for (const QString &before : {u"main"_s, u"left"_s, u"right"_s}) {
+        view.setScreen(screen(before));
+        view.showAt(QPoint(5000, 5000), screen(name));
+        QVERIFY(!view.isVisible());
+        QCOMPARE(view.screen()->name(), name);
     }
 }
 

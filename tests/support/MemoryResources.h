@@ -5,7 +5,7 @@
 #include <QString>
 
 /// Files of the resource system made from memory, there while the object lives: {"/Themes/dark.json", bytes} is read
-/// as ":/Themes/dark.json". They lie over files of the same name that were registered before.
+/// as ":/Themes/dark.json". A file of that name that is there already wins.
 class MemoryResources
 {
 public:
