@@ -13,6 +13,10 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+constexpr int FastCompression = 80; // the quality at which the PNG writer hardly tries
+}
+
 PictureRenderer::PictureRenderer(GalleryApplication *application, WQuickView *view, const QString &folder)
     : m_application(application)
     , m_view(view)
@@ -87,7 +91,7 @@ bool PictureRenderer::layOut()
 
 bool PictureRenderer::save(const QString &path)
 {
-    if (!m_view->grabWindow().save(path)) {
+    if (!m_view->grabWindow().save(path, "PNG", FastCompression)) {
         QTextStream(stderr) << tr("Cannot write %1").arg(path) << Qt::endl;
         return false;
     }
