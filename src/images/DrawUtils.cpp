@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 #include <private/qsvgnode_p.h>
 #include <private/qsvgtinydocument_p.h>
 
@@ -84,9 +86,9 @@ QPixmap DrawUtils::renderPixmap(QSvgNode *node, const QRectF &rect, const QSize 
 
 void DrawUtils::fitRectangle(QRectF &rect, double aspectRatio)
 {
-    if (rect.isEmpty() || !(aspectRatio > 0.0))
-        return;
     const double k = rect.height() / rect.width() * aspectRatio;
+    if (!std::isfinite(k))
+        return;
     if (k <= 1.0) {
         const double dx = (rect.width() - rect.width() * k) * 0.5;
         rect.adjust(dx, 0, -dx, 0);

@@ -27,8 +27,8 @@ LUMAKITQML_EXPORT void drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraState
 LUMAKITQML_EXPORT QPixmap renderPixmap(QSvgNode *node, const QRectF &rect, const QSize &size, double devicePixelRatio,
                                        const QColor &color, const QColor &background);
 
-/// Shrinks the rectangle about its centre to the largest one of that ratio of width to height. A rectangle or ratio
-/// that is not positive stays as it is.
+/// Shrinks the rectangle about its centre to the largest one of that ratio of width to height. A rectangle without
+/// width, and a ratio that is not finite, change nothing.
 LUMAKITQML_EXPORT void fitRectangle(QRectF &rect, double aspectRatio);
 
 } // namespace DrawUtils

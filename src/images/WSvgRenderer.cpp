@@ -4,6 +4,7 @@
 #include "PixmapAllocation.h"
 
 #include <QDebug>
+#include <QMetaMethod>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -53,8 +54,10 @@ bool WSvgRenderer::load(const QString &path)
         m_document = std::move(document);
     } else {
         document.reset();
-        auto renderer = std::make_unique<QSvgRenderer>(file);
-        if (!renderer->isValid()) {
+        auto renderer = std::make_unique<QSvgRenderer>();
+        // Its timer belongs to the thread that loads, and ends with the renderer in whatever thread: only where needed.
+        renderer->setAnimationEnabled(isSignalConnected(QMetaMethod::fromSignal(&WSvgRenderer::repaintNeeded)));
+        if (!renderer->load(file)) {
             qWarning() << "Invalid svg file: " << path;
             return false;
         }
@@ -150,6 +153,12 @@ QIcon WSvgRenderer::renderIcon(const QString &offName, const QString &onName, co
     updateIconResource(onName);
     icon.addPixmap(renderPixmap(size, devicePixelRatio, color), mode, QIcon::On);
     return icon;
+}
+
+void WSvgRenderer::connectNotify(const QMetaMethod &signal)
+{
+    if (m_renderer && signal == QMetaMethod::fromSignal(&WSvgRenderer::repaintNeeded))
+        m_renderer->setAnimationEnabled(true);
 }
 
 QSvgNode *WSvgRenderer::getSvgNode() const

@@ -75,6 +75,9 @@ Q_SIGNALS:
     /// The next frame of an animated file is due.
     void repaintNeeded();
 
+protected:
+    void connectNotify(const QMetaMethod &signal) override;
+
 private:
     QSvgNode *getSvgNode() const;
     void clear();

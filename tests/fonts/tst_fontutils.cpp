@@ -224,9 +224,11 @@ void tst_FontUtils::html()
     QFETCH(QString, families);
     QFETCH(QString, escaped);
     QCOMPARE(FontUtils::toHtml(text, family, true),
-             "<html><head/><body><p style=\"font-family: "_L1 + families + ";\">"_L1 + escaped + "</p></body></html>"_L1);
-    QCOMPARE(FontUtils::toHtml(text, family, false), "<html><head/><body><p style=\"font-family: "_L1 + families
-                 + ";white-space: pre\">"_L1 + escaped + "</p></body></html>"_L1);
+             "<html><head/><body><p style=\"font-family: "_L1 + families + ";\">"_L1 + escaped
+                 + "</p></body></html>"_L1);
+    QCOMPARE(FontUtils::toHtml(text, family, false),
+             "<html><head/><body><p style=\"font-family: "_L1 + families + ";white-space: pre\">"_L1 + escaped
+                 + "</p></body></html>"_L1);
     for (const bool wrap : {true, false}) {
         QCOMPARE(FontUtils::toHtml(QString(), family, wrap), QString());
         QCOMPARE(FontUtils::toHtml(u""_s, family, wrap), QString());

@@ -264,7 +264,8 @@ void tst_WFont::unknownToken()
     for (const bool withFallbackFamilies : {false, true}) {
         LogRecorder log;
         const WFont font(token(value), withFallbackFamilies);
-        QCOMPARE(log.lines(), (QList<LogRecorder::Line>{{QtWarningMsg, u"Invalid font token! This should never happen!"_s}}));
+        QCOMPARE(log.lines(),
+                 (QList<LogRecorder::Line>{{QtWarningMsg, u"Invalid font token! This should never happen!"_s}}));
         QCOMPARE(font.pixelSize(), pixelSize);
         QCOMPARE(font.weight(), 400);
         QVERIFY(!font.underline());

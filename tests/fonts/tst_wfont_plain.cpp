@@ -56,7 +56,8 @@ void tst_WFontPlain::unknownToken()
     for (const int value : {-1, 21}) {
         LogRecorder log;
         const WFont font(token(value), true);
-        QCOMPARE(log.lines(), (QList<LogRecorder::Line>{{QtWarningMsg, u"Invalid font token! This should never happen!"_s}}));
+        QCOMPARE(log.lines(),
+                 (QList<LogRecorder::Line>{{QtWarningMsg, u"Invalid font token! This should never happen!"_s}}));
         QCOMPARE(font.pixelSize(), 16);
         QCOMPARE(font.weight(), 400);
         QVERIFY(!font.underline());

@@ -104,7 +104,8 @@ void tst_WFontManager::scalingCreates()
 void tst_WFontManager::byMetaObject()
 {
     WFontManager manager(nullptr);
-    QVERIFY(QMetaObject::invokeMethod(&manager, "setScalingFactor", FontManagerEnum::MessagingView, FontManagerEnum::Medium));
+    QVERIFY(QMetaObject::invokeMethod(&manager, "setScalingFactor", FontManagerEnum::MessagingView,
+                                      FontManagerEnum::Medium));
     QCOMPARE(manager.getFont(FontManagerEnum::MessagingView)->h1().pixelSize(), 32);
 }
 

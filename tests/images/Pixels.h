@@ -20,7 +20,8 @@ inline QTransform fit(const QRectF &viewBox, const QRectF &target)
 {
     const double scale = std::min(target.width() / viewBox.width(), target.height() / viewBox.height());
     QTransform transform;
-    transform.translate(target.center().x() - viewBox.width() * scale / 2, target.center().y() - viewBox.height() * scale / 2);
+    transform.translate(target.center().x() - viewBox.width() * scale / 2,
+                        target.center().y() - viewBox.height() * scale / 2);
     transform.scale(scale, scale);
     transform.translate(-viewBox.x(), -viewBox.y());
     return transform;
@@ -52,11 +53,15 @@ inline QString difference(const QImage &actual, const QImage &expected, int tole
 {
     if (actual.size() != expected.size()) {
         return QStringLiteral("the size is %1 x %2, not %3 x %4")
-            .arg(actual.width()).arg(actual.height()).arg(expected.width()).arg(expected.height());
+            .arg(actual.width())
+            .arg(actual.height())
+            .arg(expected.width())
+            .arg(expected.height());
     }
     if (!qFuzzyCompare(actual.devicePixelRatio(), expected.devicePixelRatio())) {
         return QStringLiteral("the device pixel ratio is %1, not %2")
-            .arg(actual.devicePixelRatio()).arg(expected.devicePixelRatio());
+            .arg(actual.devicePixelRatio())
+            .arg(expected.devicePixelRatio());
     }
     const QImage a = actual.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QImage b = expected.convertToFormat(QImage::Format_ARGB32_Premultiplied);
@@ -67,14 +72,17 @@ inline QString difference(const QImage &actual, const QImage &expected, int tole
         for (int x = 0; x < a.width(); ++x) {
             const QRgb p = a.pixel(x, y);
             const QRgb q = b.pixel(x, y);
-            const int delta = std::max({std::abs(qAlpha(p) - qAlpha(q)), std::abs(qRed(p) * qAlpha(p) - qRed(q) * qAlpha(q)) / 255,
-                                        std::abs(qGreen(p) * qAlpha(p) - qGreen(q) * qAlpha(q)) / 255,
-                                        std::abs(qBlue(p) * qAlpha(p) - qBlue(q) * qAlpha(q)) / 255});
+            const int delta =
+                std::max({std::abs(qAlpha(p) - qAlpha(q)), std::abs(qRed(p) * qAlpha(p) - qRed(q) * qAlpha(q)) / 255,
+                          std::abs(qGreen(p) * qAlpha(p) - qGreen(q) * qAlpha(q)) / 255,
+                          std::abs(qBlue(p) * qAlpha(p) - qBlue(q) * qAlpha(q)) / 255});
             count += delta > tolerance;
             if (delta > worst) {
                 worst = delta;
                 text = QStringLiteral("pixel (%1, %2) is %3, not %4")
-                           .arg(x).arg(y).arg(QColor::fromRgba(p).name(QColor::HexArgb), QColor::fromRgba(q).name(QColor::HexArgb));
+                           .arg(x)
+                           .arg(y)
+                           .arg(QColor::fromRgba(p).name(QColor::HexArgb), QColor::fromRgba(q).name(QColor::HexArgb));
             }
         }
     }

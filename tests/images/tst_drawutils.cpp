@@ -95,6 +95,10 @@ void tst_DrawUtils::fitRectangle_data()
     QTest::newRow("tall, tall ratio") << QRectF(0, 0, 10, 100) << 0.25 << QRectF(0, 30, 10, 40);
     QTest::newRow("fractions") << QRectF(0.5, 0.25, 1.5, 1) << 1.0 << QRectF(0.75, 0.25, 1, 1);
     QTest::newRow("very flat") << QRectF(0, 0, 1, 1) << 1024.0 << QRectF(0, 1023.0 / 2048, 1, 1.0 / 1024);
+    QTest::newRow("no height") << QRectF(5, 5, 10, 0) << 1.0 << QRectF(10, 5, 0, 0);
+    QTest::newRow("negative size") << QRectF(5, 5, -10, -5) << 1.0 << QRectF(2.5, 5, -5, -5);
+    QTest::newRow("ratio 0") << QRectF(0, 0, 100, 50) << 0.0 << QRectF(50, 0, 0, 50);
+    QTest::newRow("negative ratio") << QRectF(0, 0, 100, 50) << -1.0 << QRectF(75, 0, -50, 50);
 }
 
 void tst_DrawUtils::fitRectangle()
@@ -112,10 +116,6 @@ void tst_DrawUtils::fitRectangleUnfit_data()
     QTest::addColumn<double>("ratio");
     QTest::newRow("null rectangle") << QRectF() << 1.0;
     QTest::newRow("no width") << QRectF(5, 5, 0, 10) << 1.0;
-    QTest::newRow("no height") << QRectF(5, 5, 10, 0) << 1.0;
-    QTest::newRow("negative size") << QRectF(5, 5, -10, -5) << 1.0;
-    QTest::newRow("ratio 0") << QRectF(0, 0, 100, 50) << 0.0;
-    QTest::newRow("negative ratio") << QRectF(0, 0, 100, 50) << -1.0;
     QTest::newRow("ratio of 0 / 0") << QRectF(0, 0, 100, 50) << NotANumber;
 }
 
@@ -224,34 +224,35 @@ void tst_DrawUtils::fills_data()
     const QByteArray left = R"(<rect width="10" height="10" )";
     const QByteArray right = R"(<rect x="10" width="10" height="10" )";
     row("no fill", start + "><g>" + left + "/>" + right + "/></g></svg>", asked, asked);
-    row("explicit fill is kept", start + "><g>" + left + R"(fill="#00ff00"/>)" + right + "/></g></svg>", QColor(0, 255, 0),
-        asked);
+    row("explicit fill is kept", start + "><g>" + left + R"(fill="#00ff00"/>)" + right + "/></g></svg>",
+        QColor(0, 255, 0), asked);
     row("black is a fill like any other", start + "><g>" + left + R"(fill="#000000"/>)" + right + "/></g></svg>",
         QColor(0, 0, 0), asked);
-    row("fill by style", start + "><g>" + left + R"(style="fill:#00ff00"/>)" + right + "/></g></svg>", QColor(0, 255, 0),
-        asked);
+    row("fill by style", start + "><g>" + left + R"(style="fill:#00ff00"/>)" + right + "/></g></svg>",
+        QColor(0, 255, 0), asked);
     row("fill none", start + "><g>" + left + R"(fill="none"/>)" + right + "/></g></svg>", Qt::transparent, asked);
     row("fill of the group", start + R"(><g fill="#0000ff">)" + left + R"(fill="#00ff00"/>)" + right + "/></g></svg>",
         QColor(0, 255, 0), QColor(0, 0, 255));
-    row("fill of the document is not the node's", start + R"( fill="#0000ff"><g>)" + left + "/>" + right
-            + R"(fill="#00ff00"/></g></svg>)",
-        asked, QColor(0, 255, 0));
+    row("fill of the document is not the node's",
+        start + R"( fill="#0000ff"><g>)" + left + "/>" + right + R"(fill="#00ff00"/></g></svg>)", asked,
+        QColor(0, 255, 0));
     row("a shape that is not displayed", start + "><g>" + left + R"(display="none"/>)" + right + "/></g></svg>",
         Qt::transparent, asked);
     row("a shape that is hidden", start + "><g>" + left + R"(visibility="hidden"/>)" + right + "/></g></svg>",
         Qt::transparent, asked);
-    row("fill opacity", start + "><g>" + left + R"(fill-opacity="0.5"/>)" + right + "/></g></svg>", QColor(255, 0, 0, 127),
-        asked);
+    row("fill opacity", start + "><g>" + left + R"(fill-opacity="0.5"/>)" + right + "/></g></svg>",
+        QColor(255, 0, 0, 127), asked);
     row("opacity of a shape", start + "><g>" + left + R"(opacity="0.5"/>)" + right + "/></g></svg>",
         QColor(255, 0, 0, 127), asked);
-    row("a stroke is drawn", start + R"(><g><path d="M0 5H10" stroke="#00ff00" stroke-width="10"/>)" + right
-            + "/></g></svg>",
+    row("a stroke is drawn",
+        start + R"(><g><path d="M0 5H10" stroke="#00ff00" stroke-width="10"/>)" + right + "/></g></svg>",
         QColor(0, 255, 0), asked);
     row("no stroke by default", start + R"(><g><path d="M0 5H10" stroke-width="10"/>)" + right + "/></g></svg>",
         Qt::transparent, asked);
     row("a single shape without a group", start + '>' + left + "/></svg>", asked, Qt::transparent);
-    row("a gradient of one colour", start + R"(><g><linearGradient id="a"><stop stop-color="#00ff00"/></linearGradient>)"
-            + left + R"(fill='url(#a)'/>)" + right + "/></g></svg>",
+    row("a gradient of one colour",
+        start + R"(><g><linearGradient id="a"><stop stop-color="#00ff00"/></linearGradient>)" + left
+            + R"(fill='url(#a)'/>)" + right + "/></g></svg>",
         QColor(0, 255, 0), asked);
     row("a group used again", start + R"(><g><g id="a">)" + left + R"(/></g><use href="#a" x="10"/></g></svg>)", asked,
         asked);
@@ -267,9 +268,9 @@ void tst_DrawUtils::fills()
     const auto document = parse(svg);
     QVERIFY(document);
     QCOMPARE(document->renderers().size(), 1);
-    const QImage actual = DrawUtils::renderPixmap(firstNode(*document), {0, 0, 20, 10}, {20, 10}, 1.0, QColor(255, 0, 0),
-                                                  Qt::transparent)
-                              .toImage();
+    const QImage actual =
+        DrawUtils::renderPixmap(firstNode(*document), {0, 0, 20, 10}, {20, 10}, 1.0, QColor(255, 0, 0), Qt::transparent)
+            .toImage();
     QImage expected = Pixels::blank({20, 10});
     QPainter painter(&expected);
     painter.fillRect(0, 0, 10, 10, left);
@@ -313,7 +314,8 @@ void tst_DrawUtils::nothingToDraw()
     DrawUtils::drawSVG(nullptr, nullptr, states, {0, 0, 10, 10}, Qt::red, 1.0);
 
     const auto hidden = parse(
-        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 9 9"><g display="none"><rect width="9" height="9"/></g></svg>)");
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 9 9">
+            <g display="none"><rect width="9" height="9"/></g></svg>)");
     QCOMPARE(firstNode(*hidden)->displayMode(), QSvgNode::NoneMode);
     QImage image = Pixels::blank({10, 10});
     {
@@ -322,8 +324,9 @@ void tst_DrawUtils::nothingToDraw()
         DrawUtils::drawSVG(&painter, firstNode(*hidden), states, {0, 0, 10, 10}, Qt::red, 1.0);
     }
     QVERIFY(Pixels::isBlank(image));
-    COMPARE_IMAGES(DrawUtils::renderPixmap(firstNode(*hidden), {0, 0, 9, 9}, {9, 9}, 1.0, Qt::red, Qt::yellow).toImage(),
-                   Pixels::blank({9, 9}, 1.0, Qt::yellow));
+    COMPARE_IMAGES(
+        DrawUtils::renderPixmap(firstNode(*hidden), {0, 0, 9, 9}, {9, 9}, 1.0, Qt::red, Qt::yellow).toImage(),
+        Pixels::blank({9, 9}, 1.0, Qt::yellow));
 }
 
 void tst_DrawUtils::keepsPainter()
@@ -431,12 +434,13 @@ void tst_DrawUtils::renderPixmap_data()
     QTest::addColumn<QColor>("background");
     QTest::newRow("filled") << QRectF(0, 0, 24, 24) << QSize(24, 24) << 1.0 << QColor(Qt::transparent);
     QTest::newRow("background") << QRectF(4, 4, 16, 16) << QSize(24, 24) << 1.0 << QColor(Qt::yellow);
-    QTest::newRow("half-transparent background") << QRectF(4, 4, 16, 16) << QSize(24, 24) << 1.0 << QColor(0, 0, 255, 100);
+    QTest::newRow("half-transparent background")
+        << QRectF(4, 4, 16, 16) << QSize(24, 24) << 1.0 << QColor(0, 0, 255, 100);
     QTest::newRow("ratio 2") << QRectF(0, 0, 24, 24) << QSize(48, 48) << 2.0 << QColor(Qt::transparent);
     QTest::newRow("ratio 1.25") << QRectF(0, 0, 24, 24) << QSize(30, 30) << 1.25 << QColor(Qt::transparent);
     QTest::newRow("ratio 1.5") << QRectF(2, 3, 20, 18) << QSize(36, 36) << 1.5 << QColor(Qt::white);
-    QTest::newRow("ratio 2, rectangle of device pixels is clipped") << QRectF(0, 0, 48, 48) << QSize(48, 48) << 2.0
-                                                                    << QColor(Qt::transparent);
+    QTest::newRow("ratio 2, rectangle of device pixels is clipped")
+        << QRectF(0, 0, 48, 48) << QSize(48, 48) << 2.0 << QColor(Qt::transparent);
     QTest::newRow("not square") << QRectF(0, 0, 60, 20) << QSize(60, 20) << 1.0 << QColor(Qt::transparent);
     QTest::newRow("one pixel") << QRectF(0, 0, 1, 1) << QSize(1, 1) << 1.0 << QColor(Qt::transparent);
 }
@@ -484,7 +488,8 @@ void tst_DrawUtils::renderPixmapRefused()
     QVERIFY(DrawUtils::renderPixmap(firstNode(*document), {0, 0, 24, 24}, size, 1.0, Qt::red, Qt::white).isNull());
     QCOMPARE(log.lines(),
              (QList<LogRecorder::Line>{
-                 {QtWarningMsg, u"Unable to create a pixmap of size QSize(%1, %2)"_s.arg(size.width()).arg(size.height())}}));
+                 {QtWarningMsg,
+                  u"Unable to create a pixmap of size QSize(%1, %2)"_s.arg(size.width()).arg(size.height())}}));
 }
 
 void tst_DrawUtils::allocationLimit()
@@ -500,16 +505,18 @@ void tst_DrawUtils::allocationLimit()
     LogRecorder log;
     QVERIFY(render({513, 512}).isNull());
     QVERIFY(render({512, 513}).isNull());
-    QCOMPARE(log.texts(), (QStringList{u"Unable to create a pixmap of size QSize(513, 512)"_s,
-                                       u"Unable to create a pixmap of size QSize(512, 513)"_s}));
+    QCOMPARE(log.texts(),
+             (QStringList{u"Unable to create a pixmap of size QSize(513, 512)"_s,
+                          u"Unable to create a pixmap of size QSize(512, 513)"_s}));
     log.clear();
     QImageReader::setAllocationLimit(0); // none
     QCOMPARE(render({513, 512}).size(), QSize(513, 512));
     QVERIFY(render({0, 512}).isNull());
     constexpr int Largest = std::numeric_limits<int>::max();
     QVERIFY(render({Largest, Largest}).isNull());
-    QCOMPARE(log.texts(), (QStringList{u"Unable to create a pixmap of size QSize(0, 512)"_s,
-                                       u"Unable to create a pixmap of size QSize(2147483647, 2147483647)"_s}));
+    QCOMPARE(log.texts(),
+             (QStringList{u"Unable to create a pixmap of size QSize(0, 512)"_s,
+                          u"Unable to create a pixmap of size QSize(2147483647, 2147483647)"_s}));
 }
 
 LUMAKIT_TEST_MAIN(tst_DrawUtils)

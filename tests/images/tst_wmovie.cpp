@@ -16,7 +16,8 @@ namespace {
 QByteArray gif()
 {
     return QByteArray::fromHex("474946383961"
-                               "0100010080000" "0ff00000000ff"
+                               "0100010080000"
+                               "0ff00000000ff"
                                "21ff0b4e45545343415045322e300301000000"
                                "21f90400010000002c000000000100010000020244010021f90400010000002c0000000001000100000202"
                                "4c01003b");
@@ -53,8 +54,8 @@ void tst_WMovie::metaObject()
 
     const QMetaObject &source = IWMovieProviderSource::staticMetaObject;
     QCOMPARE(source.superClass(), &QObject::staticMetaObject);
-    QCOMPARE(MetaDescription::signalsOf(source), (QStringList{u"void movieFetched(WMovie*,QString)"_s,
-                                                               u"void movieFetchFailed(QString,QString)"_s}));
+    QCOMPARE(MetaDescription::signalsOf(source),
+             (QStringList{u"void movieFetched(WMovie*,QString)"_s, u"void movieFetchFailed(QString,QString)"_s}));
     QCOMPARE(source.method(source.indexOfSignal("movieFetchFailed(QString,QString)")).parameterNames(),
              (QByteArrayList{"fallbackSource", "source"}));
     QCOMPARE(WMovieProviderSource::staticMetaObject.superClass(), &source);

@@ -20,25 +20,32 @@ namespace {
 
 QByteArray svg(const QByteArray &viewBox, const QByteArray &content)
 {
-    return R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" viewBox=")" + viewBox + R"(">)"
-        + content + "</svg>";
+    return R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" viewBox=")" + viewBox
+        + R"(">)" + content + "</svg>";
 }
 
 /// One top-level element: takes the asked colour.
 const QByteArray Square = svg("0 0 24 24", R"(<g><rect x="4" y="4" width="16" height="16"/></g>)");
 const QByteArray Circle = svg("0 0 24 24", R"(<g><circle cx="12" cy="12" r="10"/></g>)");
 /// Two top-level elements: keeps its own colours.
-const QByteArray Flag = svg("0 0 20 10", R"(<rect width="10" height="10" fill="#00ff00"/><rect x="10" width="10" height="10"/>)");
+const QByteArray Flag =
+    svg("0 0 20 10", R"(<rect width="10" height="10" fill="#00ff00"/><rect x="10" width="10" height="10"/>)");
 const QByteArray Animated = svg("0 0 20 10", R"(<rect width="10" height="10"/><rect x="10" width="10" height="10">
-    <animateTransform attributeName="transform" type="translate" from="0" to="5" dur="10s" repeatCount="indefinite"/></rect>)");
+    <animateTransform attributeName="transform" type="translate" from="0" to="5" dur="10s" repeatCount="indefinite"/>
+    </rect>)");
 const QByteArray AnimatedGroup = svg("0 0 20 10", R"(<g><rect width="20" height="10">
-    <animateTransform attributeName="transform" type="translate" from="0" to="5" dur="10s" repeatCount="indefinite"/></rect></g>)");
+    <animateTransform attributeName="transform" type="translate" from="0" to="5" dur="10s" repeatCount="indefinite"/>
+    </rect></g>)");
 
 QMap<QString, QByteArray> iconFiles()
 {
-    return {{u"/Resources/square.svg"_s, Square}, {u"/Resources/circle.svg"_s, Circle}, {u"/Resources/flag.svg"_s, Flag},
-            {u"/Resources/animated.svg"_s, Animated}, {u"/Resources/animated group.svg"_s, AnimatedGroup},
-            {u"/Resources/broken.svg"_s, "<svg><g>"}, {u"/outside.svg"_s, Square}};
+    return {{u"/Resources/square.svg"_s, Square},
+            {u"/Resources/circle.svg"_s, Circle},
+            {u"/Resources/flag.svg"_s, Flag},
+            {u"/Resources/animated.svg"_s, Animated},
+            {u"/Resources/animated group.svg"_s, AnimatedGroup},
+            {u"/Resources/broken.svg"_s, "<svg><g>"},
+            {u"/outside.svg"_s, Square}};
 }
 
 const QString NoNode = u"SVG node does not exist!"_s;
@@ -54,8 +61,8 @@ QList<LogRecorder::Line> libraryLines(const LogRecorder &log)
 {
     QList<LogRecorder::Line> lines;
     for (const LogRecorder::Line &line : log.lines()) {
-        for (const auto *start : {"Unable to load SVG file", "Invalid svg file", "SVG node", "Icon size", "WSvgRenderer",
-                                  "Unable to create a pixmap"}) {
+        for (const auto *start : {"Unable to load SVG file", "Invalid svg file", "SVG node", "Icon size",
+                                  "WSvgRenderer", "Unable to create a pixmap"}) {
             if (line.text.startsWith(QLatin1StringView(start)))
                 lines << line;
         }
@@ -145,6 +152,7 @@ private Q_SLOTS:
     void loadAnother();
     void failedLoadUnloads();
     void changedBetween();
+    void invalidSize();
     void updateIconResource();
 
     void mode_data();
@@ -379,6 +387,20 @@ void tst_WSvgRenderer::changedBetween()
     QVERIFY(!renderer.isAnimated());
 }
 
+void tst_WSvgRenderer::invalidSize()
+{
+    const MemoryResources resources({{u"/Resources/negative.svg"_s, svg("0 0 -24 24", "<rect/><rect/>")}});
+    WSvgRenderer renderer(u":/Resources/flag.svg"_s, nullptr);
+    LogRecorder log;
+    QVERIFY(!renderer.load(u"qrc:/Resources/negative.svg"_s));
+    QCOMPARE(libraryLines(log), warnings({u"Invalid svg file:  \"qrc:/Resources/negative.svg\""_s}));
+    QVERIFY(!renderer.isLoaded());
+    QCOMPARE(renderer.getLoadedPath(), QString());
+    log.clear();
+    QVERIFY(renderer.renderPixmap(QSize(24, 24), 1.0, Qt::red).isNull());
+    QCOMPARE(libraryLines(log), warnings({NoNode}));
+}
+
 void tst_WSvgRenderer::updateIconResource()
 {
     WSvgRenderer renderer(nullptr);
@@ -396,8 +418,9 @@ void tst_WSvgRenderer::updateIconResource()
     QVERIFY(!renderer.updateIconResource(u".."_s));
     QVERIFY(!renderer.updateIconResource(u"square\n"_s));
     QVERIFY(!renderer.updateIconResource(u"../../etc/passwd"_s));
-    QCOMPARE(libraryLines(log), warnings({unable(u":/Resources/...svg"_s), unable(u":/Resources/square\\n.svg"_s),
-                                          unable(u":/Resources/../../etc/passwd.svg"_s)}));
+    QCOMPARE(libraryLines(log),
+             warnings({unable(u":/Resources/...svg"_s), unable(u":/Resources/square\\n.svg"_s),
+                       unable(u":/Resources/../../etc/passwd.svg"_s)}));
 }
 
 void tst_WSvgRenderer::mode_data()
@@ -408,12 +431,14 @@ void tst_WSvgRenderer::mode_data()
     QTest::newRow("one shape") << QByteArray("<rect width='10' height='10'/>") << true;
     QTest::newRow("one path") << QByteArray("<path d='M0 0H10V10H0Z'/>") << true;
     QTest::newRow("one group with texts about it")
-        << QByteArray("<title>t</title><desc>d</desc><metadata/><!-- c --><g><rect width='10' height='10'/></g>") << true;
+        << QByteArray("<title>t</title><desc>d</desc><metadata/><!-- c --><g><rect width='10' height='10'/></g>")
+        << true;
     QTest::newRow("style and group") << QByteArray("<style>.a{}</style><g><rect width='10' height='10'/></g>") << true;
     QTest::newRow("two groups") << QByteArray("<g/><g><rect width='10' height='10'/></g>") << false;
-    QTest::newRow("two shapes") << QByteArray("<rect width='5' height='10'/><rect x='5' width='5' height='10'/>") << false;
-    QTest::newRow("definitions and group") << QByteArray("<defs><g id='a'/></defs><g><rect width='10' height='10'/></g>")
-                                           << false;
+    QTest::newRow("two shapes") << QByteArray("<rect width='5' height='10'/><rect x='5' width='5' height='10'/>")
+                                << false;
+    QTest::newRow("definitions and group")
+        << QByteArray("<defs><g id='a'/></defs><g><rect width='10' height='10'/></g>") << false;
 }
 
 void tst_WSvgRenderer::mode()
@@ -546,6 +571,11 @@ void tst_WSvgRenderer::animation()
     QCOMPARE(first.pixelColor(1, 5), QColor(Qt::black));
     QVERIFY(QTest::qWaitFor([&] { return renderer.renderPixmap(QSize(20, 10), 1.0, Qt::red).toImage() != first; }));
 
+    // Whoever comes later is told as well.
+    WSvgRenderer loadedBefore(u":/Resources/animated.svg"_s, nullptr);
+    QSignalSpy lateSpy(&loadedBefore, &WSvgRenderer::repaintNeeded);
+    QVERIFY(lateSpy.wait());
+
     // One element that is animated takes the colour and stands still.
     QVERIFY(renderer.updateIconResource(u"animated group"_s));
     QVERIFY(!renderer.isAnimated());
@@ -597,7 +627,8 @@ void tst_WSvgRenderer::renderCentred_data()
     QTest::addColumn<QRectF>("rect");
     QTest::newRow("smaller") << QSize(16, 16) << QSize(24, 24) << 1.0 << QColor(Qt::yellow) << QRectF(4, 4, 16, 16);
     QTest::newRow("the same") << QSize(24, 24) << QSize(24, 24) << 1.0 << QColor(Qt::yellow) << QRectF(0, 0, 24, 24);
-    QTest::newRow("odd") << QSize(15, 15) << QSize(24, 24) << 1.0 << QColor(Qt::transparent) << QRectF(4.5, 4.5, 15, 15);
+    QTest::newRow("odd") << QSize(15, 15) << QSize(24, 24) << 1.0 << QColor(Qt::transparent)
+                         << QRectF(4.5, 4.5, 15, 15);
     QTest::newRow("not square") << QSize(30, 20) << QSize(40, 60) << 1.0 << QColor(Qt::white) << QRectF(5, 20, 30, 20);
     QTest::newRow("ratio 2") << QSize(16, 16) << QSize(24, 24) << 2.0 << QColor(Qt::yellow) << QRectF(4, 4, 16, 16);
 }
@@ -723,7 +754,8 @@ void tst_WSvgRenderer::renderRefused()
         const WSvgRenderer renderer(WSvgRenderer::resourcePath(name), nullptr);
         LogRecorder log;
         QVERIFY(renderer.renderPixmap(size, 1.0, Qt::red).isNull());
-        QCOMPARE(log.lines(), warnings({u"Unable to create a pixmap of size QSize(%1, %2)"_s.arg(size.width()).arg(size.height())}));
+        QCOMPARE(log.lines(),
+                 warnings({u"Unable to create a pixmap of size QSize(%1, %2)"_s.arg(size.width()).arg(size.height())}));
         QVERIFY(renderer.isLoaded());
     }
 }
@@ -744,17 +776,22 @@ void tst_WSvgRenderer::renderIcon_data()
     const QString unableMissing = unable(u":/Resources/none.svg"_s);
     QTest::newRow("two icons") << none << square << circle << square << circle << circle << QStringList();
     QTest::newRow("one icon twice") << none << square << square << square << square << square << QStringList();
-    QTest::newRow("no icon for on: the one for off") << none << square << none << square << square << square << QStringList();
-    QTest::newRow("no icon for off: the one before") << circle << none << square << circle << square << square << QStringList();
-    QTest::newRow("no icon at all: the one before") << circle << none << none << circle << circle << circle << QStringList();
-    QTest::newRow("no icon at all, none before") << none << none << none << none << none << none << QStringList{NoNode, NoNode};
-    QTest::newRow("no icon for off, none before") << none << none << square << none << square << square << QStringList{NoNode};
+    QTest::newRow("no icon for on: the one for off")
+        << none << square << none << square << square << square << QStringList();
+    QTest::newRow("no icon for off: the one before")
+        << circle << none << square << circle << square << square << QStringList();
+    QTest::newRow("no icon at all: the one before")
+        << circle << none << none << circle << circle << circle << QStringList();
+    QTest::newRow("no icon at all, none before")
+        << none << none << none << none << none << none << QStringList{NoNode, NoNode};
+    QTest::newRow("no icon for off, none before")
+        << none << none << square << none << square << square << QStringList{NoNode};
     QTest::newRow("broken for on") << none << square << missing << square << none << none
                                    << QStringList{unableMissing, NoNode};
     QTest::newRow("broken for off") << circle << missing << square << none << square << square
                                     << QStringList{unableMissing, NoNode};
-    QTest::newRow("broken for off, no icon for on") << circle << missing << none << none << none << none
-                                                    << QStringList{unableMissing, NoNode, NoNode};
+    QTest::newRow("broken for off, no icon for on")
+        << circle << missing << none << none << none << none << QStringList{unableMissing, NoNode, NoNode};
     QTest::newRow("both broken") << circle << missing << missing << none << none << none
                                  << QStringList{unableMissing, NoNode, unableMissing, NoNode};
 }
@@ -776,14 +813,17 @@ void tst_WSvgRenderer::renderIcon()
     QCOMPARE(libraryLines(log), warnings(messages));
     QCOMPARE(renderer.getLoadedPath(), loaded.isEmpty() ? QString() : WSvgRenderer::resourcePath(loaded));
     const auto check = [&icon](const QString &shows, QIcon::State state) {
-        QCOMPARE(icon.availableSizes(QIcon::Normal, state), shows.isEmpty() ? QList<QSize>() : QList<QSize>{QSize(24, 24)});
+        QCOMPARE(icon.availableSizes(QIcon::Normal, state),
+                 shows.isEmpty() ? QList<QSize>() : QList<QSize>{QSize(24, 24)});
         if (shows.isEmpty())
             return;
         const QImage image = icon.pixmap(QSize(24, 24), 1.0, QIcon::Normal, state).toImage();
-        COMPARE_IMAGES(image, (shows == "square"_L1 ? squareImage : [](const QSize &size, double ratio, const QRectF &target,
-                                                                       const QColor &color, const QColor &, double) {
-                           return circleImage(size, ratio, target, color);
-                       })({24, 24}, 1.0, {0, 0, 24, 24}, Qt::red, Qt::transparent, 1.0),
+        COMPARE_IMAGES(image,
+                       (shows == "square"_L1
+                            ? squareImage
+                            : [](const QSize &size, double ratio, const QRectF &target, const QColor &color,
+                                 const QColor &, double) { return circleImage(size, ratio, target, color); })(
+                           {24, 24}, 1.0, {0, 0, 24, 24}, Qt::red, Qt::transparent, 1.0),
                        2);
     };
     check(offShows, QIcon::Off);
@@ -797,7 +837,8 @@ void tst_WSvgRenderer::renderIconModes()
         const QIcon icon = renderer.renderIcon(u"square"_s, u"circle"_s, QSize(32, 16), 2.0, Qt::red, mode);
         for (const QIcon::Mode other : {QIcon::Normal, QIcon::Disabled, QIcon::Active, QIcon::Selected}) {
             for (const QIcon::State state : {QIcon::Off, QIcon::On})
-                QCOMPARE(icon.availableSizes(other, state), mode == other ? QList<QSize>{QSize(32, 16)} : QList<QSize>());
+                QCOMPARE(icon.availableSizes(other, state),
+                         mode == other ? QList<QSize>{QSize(32, 16)} : QList<QSize>());
         }
     }
 }
@@ -834,36 +875,34 @@ void tst_WSvgRenderer::hostile_data()
     }
     row("a billion laughs", laughs + "]>" + start + "<text>&a29;</text></svg>", false);
     row("an entity of itself", R"(<!DOCTYPE svg [<!ENTITY a "&a;">]>)" + start + "<text>&a;</text></svg>", false);
-    row("a file as an entity", R"(<!DOCTYPE svg [<!ENTITY a SYSTEM "file:///etc/passwd">]>)" + start
-            + "<g><text>&a;</text></g></svg>",
-        true);
-    row("a view box of no size", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 0 0"><g>)" + square + "</g></svg>",
-        true, true);
-    row("a view box of no height", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 0"><g>)" + square
-            + "</g></svg>",
-        true, true);
-    row("a negative view box", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 -24 -24"><g>)" + square
-            + "</g></svg>",
-        true, true);
-    row("a view box of words", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="a b c d"><g>)" + square + "</g></svg>",
-        true, true);
-    row("a view box that is not a number", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="nan nan nan nan"><g>)" + square
-            + "</g></svg>",
-        true, true);
-    row("an infinite view box", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 1e999 1e999"><g>)" + square
-            + "</g></svg>",
-        true, true);
-    row("an enormous view box", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 1e30 1e30"><g>)" + square
-            + "</g></svg>",
-        true);
-    row("a tiny view box", R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="4 4 1e-30 1e-30"><g>)" + square
-            + "</g></svg>",
-        true);
+    row("a file as an entity",
+        R"(<!DOCTYPE svg [<!ENTITY a SYSTEM "file:///etc/passwd">]>)" + start + "<g><text>&a;</text></g></svg>", true);
+    row("a view box of no size",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 0 0"><g>)" + square + "</g></svg>", true, true);
+    row("a view box of no height",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 0"><g>)" + square + "</g></svg>", true, true);
+    row("a negative view box",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 -24 -24"><g>)" + square + "</g></svg>", true, true);
+    row("a view box of words",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="a b c d"><g>)" + square + "</g></svg>", true, true);
+    row("a view box that is not a number",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="nan nan nan nan"><g>)" + square + "</g></svg>", true, true);
+    row("an infinite view box",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 1e999 1e999"><g>)" + square + "</g></svg>", true, true);
+    row("an enormous view box",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 1e30 1e30"><g>)" + square + "</g></svg>", true);
+    row("a tiny view box",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="4 4 1e-30 1e-30"><g>)" + square + "</g></svg>", true);
+    const QByteArray open = R"(<svg xmlns="http://www.w3.org/2000/svg" )";
+    for (const char *box : {"0 0 0 0", "0 0 24 0", "0 0 0 24", "nan nan nan nan"}) {
+        const QByteArray name = QByteArray("two elements, view box ") + box;
+        row(name.constData(), open + "viewBox=\"" + box + "\">" + square + square + "</svg>", true, true);
+    }
     row("no view box", R"(<svg xmlns="http://www.w3.org/2000/svg"><g>)" + square + "</g></svg>", true, true);
-    row("no view box, two elements", R"(<svg xmlns="http://www.w3.org/2000/svg">)" + square + square + "</svg>", true, true);
-    row("an enormous document", R"(<svg xmlns="http://www.w3.org/2000/svg" width="1e9" height="1e9"><g>)" + square
-            + "</g></svg>",
+    row("no view box, two elements", R"(<svg xmlns="http://www.w3.org/2000/svg">)" + square + square + "</svg>", true,
         true);
+    row("an enormous document",
+        R"(<svg xmlns="http://www.w3.org/2000/svg" width="1e9" height="1e9"><g>)" + square + "</g></svg>", true);
     row("a path that is not a number", start + R"(<g><path d="Mnan nanLnan 7Z"/></g></svg>)", true);
     row("a path of infinite numbers", start + R"(<g><path d="M1e999 -1e999L1e999 5 7 1e999Z"/></g></svg>)", true, true);
     row("a path of enormous numbers", start + R"(<g><path d="M-1e30 -1e30H1e30V1e30H-1e30Z"/></g></svg>)", true);
@@ -873,8 +912,8 @@ void tst_WSvgRenderer::hostile_data()
     row("a negative rectangle", start + R"(<g><rect width="-5" height="-5"/></g></svg>)", true);
     row("a circle that is not a number", start + R"(<g><circle cx="nan" cy="12" r="inf"/></g></svg>)", true);
     row("a use of itself", start + R"(<g id="a"><use href="#a"/></g></svg>)", false);
-    row("two uses of each other", start + R"(<g><g id="a"><use href="#b"/></g><g id="b"><use href="#a"/></g></g></svg>)",
-        false);
+    row("two uses of each other",
+        start + R"(<g><g id="a"><use href="#b"/></g><g id="b"><use href="#a"/></g></g></svg>)", false);
     row("a use of nothing", start + R"(<g><use href="#nope"/></g></svg>)", true);
     QByteArray uses = start + R"(<g><rect id="u0" width="24" height="24"/>)";
     for (int i = 1; i <= 8; ++i) {
@@ -882,23 +921,26 @@ void tst_WSvgRenderer::hostile_data()
         uses += R"(<g id="u)" + QByteArray::number(i) + "\">" + use + use + "</g>";
     }
     row("2^8 uses", uses + "</g></svg>", true, true);
-    row("a gradient of itself", start + R"(<g><linearGradient id="a" href="#a"/><rect width="24" height="24" fill='url(#a)'/></g></svg>)",
+    row("a gradient of itself",
+        start + R"(<g><linearGradient id="a" href="#a"/><rect width="24" height="24" fill='url(#a)'/></g></svg>)",
         true);
-    row("a gradient without stops", start + R"(<g><radialGradient id="a"/><rect width="24" height="24" fill='url(#a)'/></g></svg>)",
-        true);
+    row("a gradient without stops",
+        start + R"(<g><radialGradient id="a"/><rect width="24" height="24" fill='url(#a)'/></g></svg>)", true);
     row("a fill that does not exist", start + R"(<g><rect width="24" height="24" fill='url(#nope)'/></g></svg>)", true);
     row("a colour that is none", start + R"(<g><rect width="24" height="24" fill="nope"/></g></svg>)", true, true);
     row("a transformation to nothing", start + R"(<g transform='scale(0)'>)" + square + "</g></svg>", true);
-    row("a transformation of garbage", start + R"(<g transform='scale(x) matrix(1,2)'>)" + square + "</g></svg>", true, true);
-    row("a picture in it", start + R"(<g><image width="24" height="24" href="data:image/png;base64,AAAA"/></g></svg>)", true);
+    row("a transformation of garbage", start + R"(<g transform='scale(x) matrix(1,2)'>)" + square + "</g></svg>", true,
+        true);
+    row("a picture in it", start + R"(<g><image width="24" height="24" href="data:image/png;base64,AAAA"/></g></svg>)",
+        true);
     row("a file in it", start + R"(<g><image width="24" height="24" href="file:///etc/passwd"/></g></svg>)", true);
     row("a script", start + "<script>x</script><g>" + square + "</g></svg>", true, true);
     row("a style of garbage", start + "<style>}}}{{{ a:b;c</style><g>" + square + "</g></svg>", true, true);
-    row("nested a thousand times", start + QByteArray("<g>").repeated(1000) + square + QByteArray("</g>").repeated(1000)
-            + "</svg>",
-        true, true);
+    row("nested a thousand times",
+        start + QByteArray("<g>").repeated(1000) + square + QByteArray("</g>").repeated(1000) + "</svg>", true, true);
     row("a megabyte of shapes", start + "<g>" + square.repeated(20'000) + "</g></svg>", true, true);
-    row("a path of a megabyte", start + "<g><path d=\"M4 4" + QByteArray("H20V20H4V4").repeated(100'000) + "Z\"/></g></svg>", true, true);
+    row("a path of a megabyte",
+        start + "<g><path d=\"M4 4" + QByteArray("H20V20H4V4").repeated(100'000) + "Z\"/></g></svg>", true, true);
 }
 
 void tst_WSvgRenderer::hostile()
@@ -921,6 +963,16 @@ void tst_WSvgRenderer::hostile()
     const QPixmap pixmap = renderer.renderPixmap(QSize(24, 24), 1.0, Qt::red);
     QCOMPARE(libraryLines(log), loads ? warnings({}) : warnings({unable(path), NoNode}));
     if (loads) {
+        QImage image = Pixels::blank({24, 24});
+        QPainter painter(&image);
+        for (const QRectF &rect :
+             {QRectF(), QRectF(0, 0, 24, 0), QRectF(20, 20, -10, -10), QRectF(-1e300, 0, 1e300, 1e300)}) {
+            renderer.draw(&painter, rect, Qt::red, 1.0);
+            renderer.drawScalingHeight(&painter, rect);
+        }
+        QCOMPARE(libraryLines(log), warnings({}));
+    }
+    if (loads) {
         QCOMPARE(pixmap.size(), QSize(24, 24));
         QCOMPARE(!Pixels::isBlank(pixmap.toImage()), paints);
     } else {
@@ -932,7 +984,8 @@ void tst_WSvgRenderer::hostile()
 void tst_WSvgRenderer::hostileAfterGood()
 {
     const MemoryResources resources(
-        {{u"/Resources/nan.svg"_s, svg("nan 0 0 -1", R"(<g fill-opacity="nan" opacity="inf"><path d="Mnan 0Z"/></g>)")}});
+        {{u"/Resources/nan.svg"_s,
+          svg("nan 0 0 -1", R"(<g fill-opacity="nan" opacity="inf"><path d="Mnan 0Z"/></g>)")}});
     WSvgRenderer renderer(nullptr);
     {
         const LogRecorder log;

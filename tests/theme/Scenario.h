@@ -86,10 +86,10 @@ inline Result run(const QString &name, const QString &settingsFolder)
 } // namespace Scenario
 
 /// Compares what a scenario said; nothing may be on its error output.
-#define COMPARE_SCENARIO(name, folder, ...)                                                                            \
-    do {                                                                                                               \
-        const Scenario::Result result = Scenario::run(name, folder);                                                   \
-        QCOMPARE(result.errors, QString());                                                                            \
-        QCOMPARE(result.lines, (__VA_ARGS__));                                                                         \
-        QCOMPARE(result.exitCode, 0);                                                                                  \
+#define COMPARE_SCENARIO(name, folder, ...)                          \
+    do {                                                             \
+        const Scenario::Result result = Scenario::run(name, folder); \
+        QCOMPARE(result.errors, QString());                          \
+        QCOMPARE(result.lines, (__VA_ARGS__));                       \
+        QCOMPARE(result.exitCode, 0);                                \
     } while (false)

@@ -232,13 +232,14 @@ void tst_IWApplication::setSameThemeMode()
 void tst_IWApplication::setThemeModeWithinItsSignal()
 {
     QSignalSpy spy(host(), &IWApplication::themeModeChanged);
-    const auto connection = connect(host(), &IWApplication::themeModeChanged, this,
-                                    [] { host()->setThemeMode(u"half"_s); });
+    const auto connection =
+        connect(host(), &IWApplication::themeModeChanged, this, [] { host()->setThemeMode(u"half"_s); });
     LogRecorder log;
     host()->setThemeMode(u"dark"_s);
     disconnect(connection);
-    QCOMPARE(log.texts(), (QStringList{u"setThemeMode:  \"dark\""_s, NoTokens, u"setThemeMode:  \"half\""_s,
-                                       u"The theme already is \"half\""_s}));
+    QCOMPARE(log.texts(),
+             (QStringList{u"setThemeMode:  \"dark\""_s, NoTokens, u"setThemeMode:  \"half\""_s,
+                          u"The theme already is \"half\""_s}));
     QCOMPARE(spy.count(), 2);
     QCOMPARE(host()->getThemeMode(), u"half"_s);
     QCOMPARE(QSettings().value(u"ThemeMode"_s).toString(), u"half"_s);
@@ -260,10 +261,11 @@ void tst_IWApplication::setThemeModeMessages_data()
     // The design system's pattern then names ":/Themes/dark.json".
     QTest::newRow("path characters that name another theme's file")
         << u"../../dark"_s << QStringList{NoTokens, u"setThemeMode:  \"../../dark\""_s} << 3;
-    QTest::newRow("back slashes") << u"..\\dark"_s << QStringList{NoTokens, NoTokens, u"setThemeMode:  \"..\\\\dark\""_s}
-                                  << 2;
+    QTest::newRow("back slashes") << u"..\\dark"_s
+                                  << QStringList{NoTokens, NoTokens, u"setThemeMode:  \"..\\\\dark\""_s} << 2;
     QTest::newRow("line break") << u"a\nb"_s << QStringList{NoTokens, NoTokens, u"setThemeMode:  \"a\\nb\""_s} << 2;
-    QTest::newRow("not ASCII") << u"d\u00e4rk"_s << QStringList{NoTokens, NoTokens, u"setThemeMode:  \"d\u00e4rk\""_s} << 2;
+    QTest::newRow("not ASCII") << u"d\u00e4rk"_s << QStringList{NoTokens, NoTokens, u"setThemeMode:  \"d\u00e4rk\""_s}
+                               << 2;
 }
 
 void tst_IWApplication::setThemeModeMessages()
@@ -300,7 +302,9 @@ void tst_IWApplication::colorSet_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<WColorSet>("expected");
     QTest::addColumn<QStringList>("messages");
-    const auto unknown = [](const QString &quoted) { return QStringList{u"ColorSet name does not exist!  "_s + quoted}; };
+    const auto unknown = [](const QString &quoted) {
+        return QStringList{u"ColorSet name does not exist!  "_s + quoted};
+    };
     QTest::newRow("known") << u"t"_s << WColorSet(u"t"_s, QColor(255, 0, 0)) << QStringList();
     QTest::newRow("not ASCII") << u"\u00fc-\U0001f33f"_s << WColorSet(u"\u00fc-\U0001f33f"_s, QColor(0, 128, 0))
                                << QStringList();
@@ -319,9 +323,8 @@ void tst_IWApplication::colorSet()
     QFETCH(WColorSet, expected);
     QFETCH(QStringList, messages);
     const MemoryResources resources(
-        {{u"/Themes/meridian_rows.json"_s, R"({"tokens":{"t":{"normal":)" + QByteArray(Red)
-                                               + R"(},"\u00fc-\ud83c\udf3f":{"normal":)" + Green
-                                               + "}}}"}});
+        {{u"/Themes/meridian_rows.json"_s,
+          R"({"tokens":{"t":{"normal":)" + QByteArray(Red) + R"(},"\u00fc-\ud83c\udf3f":{"normal":)" + Green + "}}}"}});
     LogRecorder log;
     host()->setThemeMode(u"rows"_s);
     log.clear();
@@ -370,9 +373,9 @@ void tst_IWApplication::qmlEngine()
     LogRecorder log;
     WQmlEngine *engine = host()->getQmlEngine();
     QVERIFY(engine);
-    QCOMPARE(log.lines(), (QList<LogRecorder::Line>{{QtDebugMsg, CreatingEngine},
-                                                    {QtInfoMsg, u"prepareQmlEngine"_s},
-                                                    {QtDebugMsg, FinishedEngine}}));
+    QCOMPARE(log.lines(),
+             (QList<LogRecorder::Line>{
+                 {QtDebugMsg, CreatingEngine}, {QtInfoMsg, u"prepareQmlEngine"_s}, {QtDebugMsg, FinishedEngine}}));
     QCOMPARE(engine->parent(), nullptr);
     QCOMPARE(host()->preparedEngine, engine);
     QCOMPARE(host()->engineInHook, engine);
@@ -397,15 +400,16 @@ void tst_IWApplication::qmlBindings()
     QQmlContext context(engine);
     context.setContextProperty(u"App"_s, host());
     QQmlComponent component(engine);
-    component.setData("import QtQuick\n"
-                      "QtObject {\n"
-                      "  property color both: { App.themeMode; ++counter.value; return App.getColorSet('both').normal }\n"
-                      "  property bool known: App.getColorSet('both', 'x').isValid\n"
-                      "  property bool animations: !App.animationsDisabled()\n"
-                      "  property var counter: ({ value: 0 })\n"
-                      "  function evaluations() : int { return counter.value }\n"
-                      "}\n",
-                      QUrl());
+    component.setData(
+        "import QtQuick\n"
+        "QtObject {\n"
+        "  property color both: { App.themeMode; ++counter.value; return App.getColorSet('both').normal }\n"
+        "  property bool known: App.getColorSet('both', 'x').isValid\n"
+        "  property bool animations: !App.animationsDisabled()\n"
+        "  property var counter: ({ value: 0 })\n"
+        "  function evaluations() : int { return counter.value }\n"
+        "}\n",
+        QUrl());
     const std::unique_ptr<QObject> object(component.create(&context));
     QCOMPARE(component.errors(), QList<QQmlError>());
     QCOMPARE(object->property("both").value<QColor>(), QColor(0, 128, 0));
@@ -468,16 +472,17 @@ static void destroyWithEngine(int &argc, char **argv)
         auto *context = new QQmlContext(engine, engine);
         context->setContextProperty(u"App"_s, &application);
         QQmlComponent component(engine);
-        component.setData("import QtQuick\nQtObject {\n"
-                          "  property color both: { App.themeMode; return App.getColorSet('both').normal }\n"
-                          "  Component.onDestruction: console.info('QML ends, both is', App.getColorSet('both').normal)\n"
-                          "}\n",
-                          QUrl());
+        component.setData(
+            "import QtQuick\nQtObject {\n"
+            "  property color both: { App.themeMode; return App.getColorSet('both').normal }\n"
+            "  Component.onDestruction: console.info('QML ends, both is', App.getColorSet('both').normal)\n"
+            "}\n",
+            QUrl());
         QObject *object = component.create(context);
         object->setParent(engine);
         QObject::connect(engine, &QObject::destroyed, [] {
-            say(u"the engine is destroyed, an application object: %1"_s.arg(
-                QCoreApplication::instance() ? u"there"_s : u"gone"_s));
+            say(u"the engine is destroyed, an application object: %1"_s.arg(QCoreApplication::instance() ? u"there"_s
+                                                                                                         : u"gone"_s));
         });
         say(u"leaving"_s);
     }
@@ -503,18 +508,15 @@ void tst_IWApplication::storedMode_data()
     const QString fromDefault = u"#00000000 both light-only transparent"_s;
     const QString warning = u"warning: "_s + NoTokens;
     QTest::newRow("nothing") << QVariant() << QStringList{u"mode \"default\""_s, fromDefault, u"keys "_s};
-    QTest::newRow("dark") << QVariant(u"dark"_s)
-                          << QStringList{u"mode \"dark\""_s, u"#00000000 both dark-only transparent"_s,
-                                         u"keys ThemeMode"_s};
-    QTest::newRow("empty") << QVariant(u""_s)
-                           << QStringList{u"mode \"\""_s, u"#00000000 both empty-only transparent"_s,
-                                          u"keys ThemeMode"_s};
+    QTest::newRow("dark") << QVariant(
+        u"dark"_s) << QStringList{u"mode \"dark\""_s, u"#00000000 both dark-only transparent"_s, u"keys ThemeMode"_s};
+    QTest::newRow("empty") << QVariant(
+        u""_s) << QStringList{u"mode \"\""_s, u"#00000000 both empty-only transparent"_s, u"keys ThemeMode"_s};
     QTest::newRow("unknown") << QVariant(u"nope"_s)
                              << QStringList{u"mode \"nope\""_s, u"#00000000 transparent"_s, warning, warning,
                                             u"keys ThemeMode"_s};
-    QTest::newRow("a number") << QVariant(7)
-                              << QStringList{u"mode \"7\""_s, u"#00000000 transparent"_s, warning, warning,
-                                             u"keys ThemeMode"_s};
+    QTest::newRow("a number") << QVariant(
+        7) << QStringList{u"mode \"7\""_s, u"#00000000 transparent"_s, warning, warning, u"keys ThemeMode"_s};
     QTest::newRow("path characters") << QVariant(u"../dark"_s)
                                      << QStringList{u"mode \"../dark\""_s, u"#00000000 transparent"_s, warning, warning,
                                                     u"keys ThemeMode"_s};

@@ -54,7 +54,8 @@ void recordSignal(QObject *sender, int signalIndex, void **)
 {
     const QMetaMethod method = QMetaObjectPrivate::signal(sender->metaObject(), signalIndex);
     const QMetaObject *owner = method.enclosingMetaObject();
-    if (owner && (QByteArrayView(owner->className()).startsWith("W") || QByteArrayView(owner->className()).startsWith("IW")))
+    if (owner
+        && (QByteArrayView(owner->className()).startsWith("W") || QByteArrayView(owner->className()).startsWith("IW")))
         emitted << QString::fromLatin1(method.methodSignature());
 }
 
@@ -116,7 +117,8 @@ void tst_WApplication::metaObject()
     QCOMPARE(meta.superClass(), &IWApplication::staticMetaObject);
     QCOMPARE(MetaDescription::properties(meta),
              (QStringList{u"QString theme, themeChanged"_s, u"QString logoSvgPath, logoSvgPathChanged"_s,
-                          u"QString logoPngPath, logoPngPathChanged"_s, u"float fontScaleFactor, fontScaleFactorChanged"_s}));
+                          u"QString logoPngPath, logoPngPathChanged"_s,
+                          u"float fontScaleFactor, fontScaleFactorChanged"_s}));
     QCOMPARE(MetaDescription::signalsOf(meta),
              (QStringList{u"void themeChanged(QString)"_s, u"void isDarkThemeChanged(bool)"_s,
                           u"void isHighContrastThemeChanged(bool)"_s, u"void fontScaleFactorChanged(float)"_s,
@@ -211,7 +213,9 @@ void tst_WApplication::logo()
     QVERIFY(host()->setProperty(name, u"/no/such/file"_s));
     QVERIFY(host()->setProperty(name, u"/no/such/file"_s));
     QCOMPARE(host()->property(name).toString(), u"/no/such/file"_s);
-    QCOMPARE(spy, (QList<QVariantList>{{u":/logo"_s}, {u":/logo"_s}, {QString()}, {u"/no/such/file"_s}, {u"/no/such/file"_s}}));
+    QCOMPARE(
+        spy,
+        (QList<QVariantList>{{u":/logo"_s}, {u":/logo"_s}, {QString()}, {u"/no/such/file"_s}, {u"/no/such/file"_s}}));
     QCOMPARE((isSvg ? pngSpy : svgSpy).count(), 0);
     QCOMPARE(isSvg ? host()->getLogoPngPath() : host()->getLogoSvgPath(), QString());
 }

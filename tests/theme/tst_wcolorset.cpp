@@ -64,9 +64,10 @@ private Q_SLOTS:
 
 void tst_WColorSet::metaObject()
 {
-    QCOMPARE(MetaDescription::properties(WColorSet::staticMetaObject),
-             (QStringList{u"QString name"_s, u"QColor normal"_s, u"QColor hovered"_s, u"QColor pressed"_s,
-                          u"QColor disabled"_s, u"QColor focused"_s, u"QColor checked"_s, u"bool isValid, read-only"_s}));
+    QCOMPARE(
+        MetaDescription::properties(WColorSet::staticMetaObject),
+        (QStringList{u"QString name"_s, u"QColor normal"_s, u"QColor hovered"_s, u"QColor pressed"_s,
+                     u"QColor disabled"_s, u"QColor focused"_s, u"QColor checked"_s, u"bool isValid, read-only"_s}));
     QCOMPARE(WColorSet::staticMetaObject.superClass(), nullptr);
     QCOMPARE(WColorSet::staticMetaObject.methodCount(), 0);
     QCOMPARE(QMetaType::fromType<WColorSet>().metaObject(), &WColorSet::staticMetaObject);

@@ -176,7 +176,7 @@ void tst_WThemeUtils::readJsonObject_data()
     QTest::newRow("comment") << QByteArray("/**/{\"a\":1}") << QJsonObject();
     QTest::newRow("single quotes") << QByteArray("{'a':1}") << QJsonObject();
     QTest::newRow("broken UTF-8") << QByteArray("{\"a\":\"\xff\xfe\"}") << QJsonObject();
-    QTest::newRow("UTF-16") << QByteArray("\xff\xfe{\0\"\0a\0\"\0:\0001\0}\0", 18) << QJsonObject();
+    QTest::newRow("UTF-16") << QByteArray("\xff\xfe{\0\"\0a\0\"\0:\0001\0}\0", 16) << QJsonObject();
     QTest::newRow("zero bytes") << QByteArray(4096, '\0') << QJsonObject();
     QTest::newRow("not text") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) << QJsonObject();
     QTest::newRow("nested too deep") << nested(2000) << QJsonObject();
@@ -281,7 +281,10 @@ void tst_WThemeUtils::rgba_data()
     for (const char channel : {'r', 'g', 'b'}) {
         const auto component = [&](const char *value, int expected) {
             QByteArray rgba = R"({"r":10,"g":20,"b":30,"a":1})";
-            rgba.replace(QByteArray(1, channel) + "\":" + (channel == 'r' ? "10" : channel == 'g' ? "20" : "30"),
+            rgba.replace(QByteArray(1, channel) + "\":"
+                             + (channel == 'r'       ? "10"
+                                    : channel == 'g' ? "20"
+                                                     : "30"),
                          QByteArray(1, channel) + "\":" + value);
             QColor color(10, 20, 30);
             if (expected < 0)
@@ -377,8 +380,7 @@ void tst_WThemeUtils::palette_data()
         {{u"a"_s, red}, {u"b"_s, green}});
     row("not ASCII", R"({"colors":[{"variations":[{"name":"gr\u00fcn-\ud83c\udf3f","rgba":$green}]}]})",
         {{u"gr\u00fcn-\U0001f33f"_s, green}});
-    row("a name with a zero", R"({"colors":[{"variations":[{"name":"a\u0000b","rgba":$red}]}]})",
-        {{u"a\0b"_s, red}});
+    row("a name with a zero", R"({"colors":[{"variations":[{"name":"a\u0000b","rgba":$red}]}]})", {{u"a\0b"_s, red}});
     row("group without variations", R"({"colors":[{},{"variations":[{"name":"a","rgba":$red}]}]})", {{u"a"_s, red}});
     row("group that is no object", R"({"colors":[1,"x",null,{"variations":[{"name":"a","rgba":$red}]}]})",
         {{u"a"_s, red}});
@@ -394,8 +396,8 @@ void tst_WThemeUtils::palette_data()
         R"({"colors":[{"variations":[{"name":"z"},{"name":"a"}]},{"variations":[{"name":""}]}]})", {},
         {badColor(u"z"_s)});
     row("the empty name comes first", R"({"colors":[{"variations":[{"name":""},{"name":"a"}]}]})", {});
-    row("duplicate name: the first", R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"a","rgba":$green}]}]})",
-        {{u"a"_s, red}});
+    row("duplicate name: the first",
+        R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"a","rgba":$green}]}]})", {{u"a"_s, red}});
 
     row("alias", R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"b","alias":"a"}]}]})",
         {{u"a"_s, red}, {u"b"_s, red}});
@@ -408,15 +410,15 @@ void tst_WThemeUtils::palette_data()
         R"({"colors":[{"variations":[{"name":"b","alias":"a"},{"name":"c","alias":"b"},{"name":"a","rgba":$red}]}]})",
         {{u"a"_s, red}, {u"b"_s, red}, {u"c"_s, red}});
     row("alias of a later alias",
-        R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"c","alias":"b"},{"name":"b","alias":"a"}]}]})", {},
-        {badAlias(u"b"_s)});
-    row("alias of itself", R"({"colors":[{"variations":[{"name":"a","alias":"a"}]}]})", {}, {badAlias(u"a"_s)});
-    row("two aliases of each other", R"({"colors":[{"variations":[{"name":"a","alias":"b"},{"name":"b","alias":"a"}]}]})",
+        R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"c","alias":"b"},{"name":"b","alias":"a"}]}]})",
         {}, {badAlias(u"b"_s)});
+    row("alias of itself", R"({"colors":[{"variations":[{"name":"a","alias":"a"}]}]})", {}, {badAlias(u"a"_s)});
+    row("two aliases of each other",
+        R"({"colors":[{"variations":[{"name":"a","alias":"b"},{"name":"b","alias":"a"}]}]})", {}, {badAlias(u"b"_s)});
     row("alias of nothing", R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"b","alias":"x"}]}]})", {},
         {badAlias(u"x"_s)});
-    row("alias in another case", R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"b","alias":"A"}]}]})", {},
-        {badAlias(u"A"_s)});
+    row("alias in another case", R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"b","alias":"A"}]}]})",
+        {}, {badAlias(u"A"_s)});
     row("alias with a broken rgba",
         R"({"colors":[{"variations":[{"name":"a","rgba":$red},{"name":"b","alias":"a","rgba":"x"}]}]})",
         {{u"a"_s, red}, {u"b"_s, red}});
@@ -446,7 +448,8 @@ void tst_WThemeUtils::palette()
 
 void tst_WThemeUtils::paletteFromFile()
 {
-    const MemoryResources resources({{u"/p.json"_s, json(R"({"colors":[{"variations":[{"name":"a","rgba":$red}]}]})")}});
+    const MemoryResources resources(
+        {{u"/p.json"_s, json(R"({"colors":[{"variations":[{"name":"a","rgba":$red}]}]})")}});
     QCOMPARE(sorted(WThemeUtils::parseWColorsFromJson(u":/p.json"_s)), Palette({{u"a"_s, QColor(255, 0, 0)}}));
     QCOMPARE(sorted(WThemeUtils::parseWColorsFromJson(u":/missing.json"_s)), Palette());
 }
@@ -462,8 +465,9 @@ void tst_WThemeUtils::tokens_data()
                         const QStringList &messages = {}) {
         QTest::newRow(name) << QByteArray(text) << palette << expected << messages;
     };
-    const Palette palette{{u"red"_s, QColor(255, 0, 0)},    {u"green"_s, QColor(0, 128, 0)}, {u"blue"_s, QColor(0, 0, 255)},
-                          {u"grey"_s, QColor(9, 9, 9, 9)},  {u"broken"_s, QColor()},         {u""_s, QColor(1, 1, 1)},
+    const Palette palette{{u"red"_s, QColor(255, 0, 0)},    {u"green"_s, QColor(0, 128, 0)},
+                          {u"blue"_s, QColor(0, 0, 255)},   {u"grey"_s, QColor(9, 9, 9, 9)},
+                          {u"broken"_s, QColor()},          {u""_s, QColor(1, 1, 1)},
                           {u"black"_s, QColor(0, 0, 0, 0)}, {u"white"_s, QColor(255, 255, 255)}};
 
     row("no tokens", "{}", {}, {}, {NoTokens});
@@ -496,19 +500,22 @@ void tst_WThemeUtils::tokens_data()
         R"({"tokens":{"a":{"normal":"red","hovered":"green","pressed":"blue","disabled":"grey","focused":"black",
             "checked":"white"}}})",
         palette, {{u"a"_s, u"a #ffff0000 #ff008000 #ff0000ff #09090909 #00000000 #ffffffff"_s}});
-    row("names: unknown state colour", R"({"tokens":{"a":{"normal":"red","hovered":"nope","checked":"green"}}})", palette,
-        {{u"a"_s, u"a #ffff0000 #ffff0000 #ffff0000 #ffff0000 #ffff0000 #ff008000"_s}});
+    row("names: unknown state colour", R"({"tokens":{"a":{"normal":"red","hovered":"nope","checked":"green"}}})",
+        palette, {{u"a"_s, u"a #ffff0000 #ffff0000 #ffff0000 #ffff0000 #ffff0000 #ff008000"_s}});
     row("names: another case", R"({"tokens":{"a":{"normal":"red","hovered":"Green"}}})", palette,
         {{u"a"_s, u"a #ffff0000"_s}});
     row("names: states that are no strings",
-        R"({"tokens":{"a":{"normal":"red","hovered":$green,"pressed":1,"disabled":null,"focused":true,"checked":["green"]}}})",
+        R"({"tokens":{"a":{"normal":"red","hovered":$green,"pressed":1,"disabled":null,
+            "focused":true,"checked":["green"]}}})",
         palette, {{u"a"_s, u"a #ffff0000"_s}});
     row("names: the empty name is a name", R"({"tokens":{"a":{"normal":"red","hovered":""}}})", palette,
         {{u"a"_s, u"a #ffff0000 #ff010101 #ffff0000 #ffff0000 #ffff0000 #ffff0000"_s}});
-    row("names: unknown normal", R"({"tokens":{"a":{"normal":"nope","hovered":"red"}}})", palette, {}, {badToken(u"a"_s)});
+    row("names: unknown normal", R"({"tokens":{"a":{"normal":"nope","hovered":"red"}}})", palette, {},
+        {badToken(u"a"_s)});
     row("names: no normal", R"({"tokens":{"a":{"hovered":"red"}}})", palette, {}, {badToken(u"a"_s)});
     row("names: normal is rgba", R"({"tokens":{"a":{"normal":$red}}})", palette, {}, {badToken(u"a"_s)});
-    row("names: invalid known colour, normal", R"({"tokens":{"a":{"normal":"broken"}}})", palette, {}, {badToken(u"a"_s)});
+    row("names: invalid known colour, normal", R"({"tokens":{"a":{"normal":"broken"}}})", palette, {},
+        {badToken(u"a"_s)});
     row("names: invalid known colour, hovered", R"({"tokens":{"a":{"normal":"red","hovered":"broken"}}})", palette, {},
         {badToken(u"a"_s)});
     row("names: invalid known colour, checked", R"({"tokens":{"a":{"normal":"red","checked":"broken"}}})", palette, {},
@@ -532,7 +539,8 @@ void tst_WThemeUtils::tokens_data()
         {badToken(u"a"_s)});
     row("token name that is not ASCII", R"({"tokens":{"\u00fc-\ud83c\udf3f":{"normal":$red}}})", {},
         {{u"\u00fc-\U0001f33f"_s, u"\u00fc-\U0001f33f #ffff0000"_s}});
-    row("token name like a format", R"({"tokens":{"%1 %s\"":{"normal":$red}}})", {}, {{u"%1 %s\""_s, u"%1 %s\" #ffff0000"_s}});
+    row("token name like a format", R"({"tokens":{"%1 %s\"":{"normal":$red}}})", {},
+        {{u"%1 %s\""_s, u"%1 %s\" #ffff0000"_s}});
     row("other keys beside tokens", R"({"version":2,"tokens":{"a":{"normal":$red}},"colors":[]})", {},
         {{u"a"_s, u"a #ffff0000"_s}});
 }
@@ -571,7 +579,8 @@ void tst_WThemeUtils::everyTokenAndState()
         QJsonObject object;
         for (qsizetype state = 0; state < states.size(); ++state) {
             const QColor c = color(token, state);
-            object.insert(states[state], QJsonObject{{u"r"_s, c.red()}, {u"g"_s, c.green()}, {u"b"_s, c.blue()}, {u"a"_s, 1}});
+            object.insert(states[state],
+                          QJsonObject{{u"r"_s, c.red()}, {u"g"_s, c.green()}, {u"b"_s, c.blue()}, {u"a"_s, 1}});
         }
         tokens.insert(WThemeUtils::colorSetTokenName(token), object);
     }
@@ -579,8 +588,9 @@ void tst_WThemeUtils::everyTokenAndState()
     QCOMPARE(sets.size(), 642U);
     for (int token = 0; token < 642; ++token) {
         const QString name = WThemeUtils::colorSetTokenName(token);
-        QCOMPARE(sets.at(name.toStdString()), WColorSet(name, color(token, 0), color(token, 1), color(token, 2),
-                                                        color(token, 3), color(token, 4), color(token, 5)));
+        QCOMPARE(sets.at(name.toStdString()),
+                 WColorSet(name, color(token, 0), color(token, 1), color(token, 2), color(token, 3), color(token, 4),
+                           color(token, 5)));
     }
 }
 
@@ -615,8 +625,8 @@ void tst_WThemeUtils::loadTheme_data()
         {NoTokens});
     row("the application's without a palette", dark, {{design, designTokens}, {own, ownTokens}},
         withBuiltIn(designSets), {badToken(u"b"_s)});
-    row("the application's without a palette, rgba", dark, {{design, designTokens}, {own, R"({"tokens":{"c":{"normal":$green}}})"}},
-        withBuiltIn(allSets));
+    row("the application's without a palette, rgba", dark,
+        {{design, designTokens}, {own, R"({"tokens":{"c":{"normal":$green}}})"}}, withBuiltIn(allSets));
     row("broken palette", dark,
         {{design, designTokens}, {colors, R"({"colors":[{"variations":[{"name":"p"}]}]})"}, {own, ownTokens}},
         withBuiltIn(designSets), {badColor(u"p"_s), badToken(u"b"_s)});
@@ -635,10 +645,12 @@ void tst_WThemeUtils::loadTheme_data()
     row("everything broken", dark, {{design, "x"}, {colors, "x"}, {own, "x"}}, withBuiltIn({}), {NoTokens, NoTokens});
     row("the theme's own transparent", dark,
         {{design, R"({"tokens":{"transparent":{"normal":$red}}})"}, {colors, palette}, {own, ownTokens}},
-        withBuiltIn({{u"transparent"_s, u"transparent #ffff0000"_s}, {u"b"_s, u"b #ff008000"_s}, {u"c"_s, u"c #ff008000"_s}}));
+        withBuiltIn(
+            {{u"transparent"_s, u"transparent #ffff0000"_s}, {u"b"_s, u"b #ff008000"_s}, {u"c"_s, u"c #ff008000"_s}}));
     row("the application's own #00000000", dark,
         {{design, designTokens}, {own, R"({"tokens":{"#00000000":{"normal":$green}}})"}},
-        withBuiltIn({{u"#00000000"_s, u"#00000000 #ff008000"_s}, {u"a"_s, u"a #ffff0000"_s}, {u"b"_s, u"b #ffff0000"_s}}));
+        withBuiltIn(
+            {{u"#00000000"_s, u"#00000000 #ff008000"_s}, {u"a"_s, u"a #ffff0000"_s}, {u"b"_s, u"b #ffff0000"_s}}));
 
     row("another theme's files", u"light"_s, {{design, designTokens}, {colors, palette}, {own, ownTokens}},
         withBuiltIn({}), {NoTokens, NoTokens});
@@ -647,7 +659,8 @@ void tst_WThemeUtils::loadTheme_data()
     row("theme %1", u"%1"_s, {{u"/Themes/meridian_%1.json"_s, designTokens}}, withBuiltIn(designSets), {NoTokens});
     row("theme of several words", u"high contrast \u00e4"_s,
         {{u"/Themes/meridian_high contrast \u00e4.json"_s, designTokens}}, withBuiltIn(designSets), {NoTokens});
-    row("theme in a folder", u"a/b"_s, {{u"/Themes/meridian_a/b.json"_s, designTokens}}, withBuiltIn(designSets), {NoTokens});
+    row("theme in a folder", u"a/b"_s, {{u"/Themes/meridian_a/b.json"_s, designTokens}}, withBuiltIn(designSets),
+        {NoTokens});
     row("theme with the extension", u"dark.json"_s, {{design, designTokens}}, withBuiltIn({}), {NoTokens, NoTokens});
     row("theme named like the palette", u"colors"_s, {{colors, palette}}, withBuiltIn({}), {NoTokens, NoTokens});
     row("theme with a zero", u"dark\0"_s, {{design, designTokens}}, withBuiltIn({}), {NoTokens, NoTokens});
@@ -680,8 +693,8 @@ void tst_WThemeUtils::loadThemeStaysInResources()
     QCOMPARE(WThemeUtils::readJsonObject(file.fileName()).size(), 1); // it could be read by its path
 
     const MemoryResources resources({{u"/Themes/dark.json"_s, "{}"}});
-    for (const QString &theme : {secret, u"/.."_s + secret, u".."_s + secret, u"../../../../../.."_s + secret, u"x/../.."_s + secret,
-                                 u"../file:"_s + secret, u"dark.json/../../.."_s + secret}) {
+    for (const QString &theme : {secret, u"/.."_s + secret, u".."_s + secret, u"../../../../../.."_s + secret,
+                                 u"x/../.."_s + secret, u"../file:"_s + secret, u"dark.json/../../.."_s + secret}) {
         LogRecorder log;
         QCOMPARE(described(WThemeUtils::loadTheme(theme)), withBuiltIn({}));
         QCOMPARE(log.texts(), (QStringList{NoTokens, NoTokens}));
@@ -696,13 +709,13 @@ void tst_WThemeUtils::loadHugeTheme()
     for (int i = 0; i < Count; ++i) {
         const QString name = QString::number(i);
         tokens.insert(u"token-with-a-name-that-is-not-short-"_s + name, QJsonObject{{u"normal"_s, name}});
-        variations.append(QJsonObject{
-            {u"name"_s, name},
-            {u"rgba"_s, QJsonObject{{u"r"_s, i % 256}, {u"g"_s, i / 256}, {u"b"_s, 7}, {u"a"_s, 1}}}});
+        variations.append(
+            QJsonObject{{u"name"_s, name},
+                        {u"rgba"_s, QJsonObject{{u"r"_s, i % 256}, {u"g"_s, i / 256}, {u"b"_s, 7}, {u"a"_s, 1}}}});
     }
     const QByteArray own = QJsonDocument(QJsonObject{{u"tokens"_s, tokens}}).toJson();
-    const QByteArray palette
-        = QJsonDocument(QJsonObject{{u"colors"_s, QJsonArray{QJsonObject{{u"variations"_s, variations}}}}}).toJson();
+    const QByteArray palette =
+        QJsonDocument(QJsonObject{{u"colors"_s, QJsonArray{QJsonObject{{u"variations"_s, variations}}}}}).toJson();
     QCOMPARE_GT(own.size() + palette.size(), 4'000'000);
     const MemoryResources resources({{u"/Themes/huge.json"_s, own}, {u"/Themes/colors.json"_s, palette}});
 
@@ -741,7 +754,9 @@ void tst_WThemeUtils::colorSet_data()
     QTest::addColumn<WColorSet>("expected");
     QTest::addColumn<QStringList>("messages");
     const WColorSet transparent(u"transparent"_s, Qt::transparent);
-    const auto unknown = [](const char *name) { return QStringList{u"ColorSet name does not exist!  "_s + QString::fromUtf8(name)}; };
+    const auto unknown = [](const char *name) {
+        return QStringList{u"ColorSet name does not exist!  "_s + QString::fromUtf8(name)};
+    };
     QTest::newRow("token") << QByteArray("a") << WColorSet(u"a"_s, QColor(255, 0, 0)) << QStringList();
     QTest::newRow("UTF-8") << QByteArray("\xc3\xbc") << WColorSet(u"\u00fc"_s, QColor(0, 128, 0)) << QStringList();
     QTest::newRow("transparent") << QByteArray("transparent") << transparent << QStringList();
@@ -797,23 +812,68 @@ void tst_WThemeUtils::tokenNames()
 
 void tst_WThemeUtils::tokenFamilies()
 {
-    const QMap<QString, int> expected{
-        {u"alertbadge"_s, 10},      {u"attachment"_s, 31},         {u"avatar"_s, 33},           {u"badge"_s, 12},
-        {u"banner"_s, 10},          {u"button"_s, 62},             {u"cancelicon"_s, 1},        {u"card"_s, 6},
-        {u"chat"_s, 3},             {u"checkbox"_s, 7},            {u"chips"_s, 13},            {u"closedcaption"_s, 12},
-        {u"coachmarkteaching"_s, 10}, {u"codeinput"_s, 6},         {u"combobox"_s, 5},          {u"compose"_s, 8},
-        {u"content"_s, 13},         {u"dualbutton"_s, 8},          {u"global"_s, 1},            {u"globalHeader"_s, 25},
-        {u"hyperlink"_s, 3},        {u"interactiveicon"_s, 10},    {u"label"_s, 12},            {u"list"_s, 2},
-        {u"listitem"_s, 8},         {u"meetingCardListItem"_s, 4}, {u"meetingRecording"_s, 2},  {u"meetingmarker"_s, 3},
-        {u"menulistbackground"_s, 6}, {u"message"_s, 12},          {u"modal"_s, 6},             {u"multilineChip"_s, 16},
-        {u"navigation"_s, 2},       {u"navigationtab"_s, 2},       {u"notificationToast"_s, 3}, {u"overlayFade"_s, 2},
-        {u"panel"_s, 3},            {u"participantListItem"_s, 2}, {u"pickers"_s, 11},          {u"popover"_s, 1},
-        {u"radio"_s, 8},            {u"reaction"_s, 4},            {u"scheduledmeetingItem"_s, 1}, {u"scrollbar"_s, 4},
-        {u"search"_s, 4},           {u"separator"_s, 2},           {u"sharewindow"_s, 21},      {u"shortcutinput"_s, 24},
-        {u"spinner"_s, 6},          {u"tab"_s, 15},                {u"tag"_s, 36},              {u"tags"_s, 36},
-        {u"teamMarker"_s, 12},      {u"textToast"_s, 3},           {u"textinput"_s, 7},         {u"theme"_s, 4},
-        {u"toggle"_s, 6},           {u"toggleButton"_s, 6},        {u"toggleButtonAccent"_s, 4}, {u"toggleButtonOverlay"_s, 6},
-        {u"touchbar"_s, 24},        {u"videoSupport"_s, 23}};
+    const QMap<QString, int> expected{{u"alertbadge"_s, 10},
+                                      {u"attachment"_s, 31},
+                                      {u"avatar"_s, 33},
+                                      {u"badge"_s, 12},
+                                      {u"banner"_s, 10},
+                                      {u"button"_s, 62},
+                                      {u"cancelicon"_s, 1},
+                                      {u"card"_s, 6},
+                                      {u"chat"_s, 3},
+                                      {u"checkbox"_s, 7},
+                                      {u"chips"_s, 13},
+                                      {u"closedcaption"_s, 12},
+                                      {u"coachmarkteaching"_s, 10},
+                                      {u"codeinput"_s, 6},
+                                      {u"combobox"_s, 5},
+                                      {u"compose"_s, 8},
+                                      {u"content"_s, 13},
+                                      {u"dualbutton"_s, 8},
+                                      {u"global"_s, 1},
+                                      {u"globalHeader"_s, 25},
+                                      {u"hyperlink"_s, 3},
+                                      {u"interactiveicon"_s, 10},
+                                      {u"label"_s, 12},
+                                      {u"list"_s, 2},
+                                      {u"listitem"_s, 8},
+                                      {u"meetingCardListItem"_s, 4},
+                                      {u"meetingRecording"_s, 2},
+                                      {u"meetingmarker"_s, 3},
+                                      {u"menulistbackground"_s, 6},
+                                      {u"message"_s, 12},
+                                      {u"modal"_s, 6},
+                                      {u"multilineChip"_s, 16},
+                                      {u"navigation"_s, 2},
+                                      {u"navigationtab"_s, 2},
+                                      {u"notificationToast"_s, 3},
+                                      {u"overlayFade"_s, 2},
+                                      {u"panel"_s, 3},
+                                      {u"participantListItem"_s, 2},
+                                      {u"pickers"_s, 11},
+                                      {u"popover"_s, 1},
+                                      {u"radio"_s, 8},
+                                      {u"reaction"_s, 4},
+                                      {u"scheduledmeetingItem"_s, 1},
+                                      {u"scrollbar"_s, 4},
+                                      {u"search"_s, 4},
+                                      {u"separator"_s, 2},
+                                      {u"sharewindow"_s, 21},
+                                      {u"shortcutinput"_s, 24},
+                                      {u"spinner"_s, 6},
+                                      {u"tab"_s, 15},
+                                      {u"tag"_s, 36},
+                                      {u"tags"_s, 36},
+                                      {u"teamMarker"_s, 12},
+                                      {u"textToast"_s, 3},
+                                      {u"textinput"_s, 7},
+                                      {u"theme"_s, 4},
+                                      {u"toggle"_s, 6},
+                                      {u"toggleButton"_s, 6},
+                                      {u"toggleButtonAccent"_s, 4},
+                                      {u"toggleButtonOverlay"_s, 6},
+                                      {u"touchbar"_s, 24},
+                                      {u"videoSupport"_s, 23}};
     QMap<QString, int> families;
     for (int identifier = 0; identifier < 642; ++identifier)
         ++families[WThemeUtils::colorSetTokenName(identifier).section(u'-', 0, 0)];
