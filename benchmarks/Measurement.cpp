@@ -68,9 +68,9 @@ QTextStream &out()
 void Measurement::printHead(const QString &title)
 {
     out() << title << "\n"
-          << u"subject"_s.leftJustified(34) << u"ours cpu us"_s.rightJustified(13) << u"peer cpu us"_s.rightJustified(13)
-          << u"cpu ratio"_s.rightJustified(11) << u"wall ratio"_s.rightJustified(12) << u"at most"_s.rightJustified(9)
-          << "  against\n"
+          << u"subject"_s.leftJustified(34) << u"ours cpu us"_s.rightJustified(13)
+          << u"peer cpu us"_s.rightJustified(13) << u"cpu ratio"_s.rightJustified(11)
+          << u"wall ratio"_s.rightJustified(12) << u"at most"_s.rightJustified(9) << "  against\n"
           << Qt::flush;
 }
 

@@ -79,39 +79,37 @@ int main(int argc, char **argv)
     QSvgNode *node = document->renderers().first();
     expectInk(renderer.renderPixmap(IconSize, 1.0, Qt::red));
     expectInk(drawNode(node, Qt::red));
-    Measurement::compare(
-        u"icon, file parsed"_s,
-        {u"renderPixmap"_s,
-         [&] {
-             for (int i = 0; i < Calls; ++i)
-                 renderer.renderPixmap(IconSize, 1.0, QColor::fromRgb(i & 255, 0, 0));
-         }},
-        {u"the node drawn into a pixmap"_s,
-         [&] {
-             for (int i = 0; i < Calls; ++i)
-                 drawNode(node, QColor::fromRgb(i & 255, 0, 0));
-         }},
-        1.05, Calls, 31);
+    Measurement::compare(u"icon, file parsed"_s,
+                         {u"renderPixmap"_s,
+                          [&] {
+                              for (int i = 0; i < Calls; ++i)
+                                  renderer.renderPixmap(IconSize, 1.0, QColor::fromRgb(i & 255, 0, 0));
+                          }},
+                         {u"the node drawn into a pixmap"_s,
+                          [&] {
+                              for (int i = 0; i < Calls; ++i)
+                                  drawNode(node, QColor::fromRgb(i & 255, 0, 0));
+                          }},
+                         1.05, Calls, 31);
 
-    Measurement::compare(
-        u"icon, cold"_s,
-        {u"load and renderPixmap"_s,
-         [&] {
-             for (int i = 0; i < Calls; ++i) {
-                 renderer.load(paths[i & 1]);
-                 renderer.renderPixmap(IconSize, 1.0, Qt::red);
-             }
-         }},
-        {u"parse and draw by Qt Svg"_s,
-         [&] {
-             for (int i = 0; i < Calls; ++i) {
-                 QSvgRenderer svg(paths[i & 1]);
-                 QPixmap pixmap(IconSize);
-                 pixmap.fill(Qt::transparent);
-                 QPainter painter(&pixmap);
-                 svg.render(&painter);
-             }
-         }},
-        1.1, Calls, 31);
+    Measurement::compare(u"icon, cold"_s,
+                         {u"load and renderPixmap"_s,
+                          [&] {
+                              for (int i = 0; i < Calls; ++i) {
+                                  renderer.load(paths[i & 1]);
+                                  renderer.renderPixmap(IconSize, 1.0, Qt::red);
+                              }
+                          }},
+                         {u"parse and draw by Qt Svg"_s,
+                          [&] {
+                              for (int i = 0; i < Calls; ++i) {
+                                  QSvgRenderer svg(paths[i & 1]);
+                                  QPixmap pixmap(IconSize);
+                                  pixmap.fill(Qt::transparent);
+                                  QPainter painter(&pixmap);
+                                  svg.render(&painter);
+                              }
+                          }},
+                         1.1, Calls, 31);
     return EXIT_SUCCESS;
 }

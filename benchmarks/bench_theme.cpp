@@ -74,15 +74,14 @@ int main(int argc, char **argv)
 
     Measurement::printHead(u"Theme"_s);
 
-    Measurement::compare(
-        u"loadTheme, full"_s,
-        {u"loadTheme"_s, [] { expect(WThemeUtils::loadTheme(u"default"_s).size() == 644); }},
-        {u"QJsonDocument::fromJson, the same bytes"_s,
-         [&files] {
-             for (const QByteArray &bytes : files)
-                 expect(!QJsonDocument::fromJson(bytes).isEmpty());
-         }},
-        1.6);
+    Measurement::compare(u"loadTheme, full"_s,
+                         {u"loadTheme"_s, [] { expect(WThemeUtils::loadTheme(u"default"_s).size() == 644); }},
+                         {u"QJsonDocument::fromJson, the same bytes"_s,
+                          [&files] {
+                              for (const QByteArray &bytes : files)
+                                  expect(!QJsonDocument::fromJson(bytes).isEmpty());
+                          }},
+                         1.6);
 
     QHash<QString, WColorSet> peer;
     QStringList names;
@@ -115,9 +114,8 @@ int main(int argc, char **argv)
     const auto run = [&loops](const char *function) {
         QMetaObject::invokeMethod(loops.get(), function, Q_ARG(int, Calls));
     };
-    Measurement::compare(
-        u"colour-set look-up, QML"_s, {u"App.getColorSet(name).normal"_s, [&] { run("lookUp"); }},
-        {u"an empty invokable"_s, [&] { run("callNothing"); }}, 2.5, Calls);
+    Measurement::compare(u"colour-set look-up, QML"_s, {u"App.getColorSet(name).normal"_s, [&] { run("lookUp"); }},
+                         {u"an empty invokable"_s, [&] { run("callNothing"); }}, 2.5, Calls);
     expect(loops->property("sample").value<QColor>() == application.getColorSet(u"button-primary-background"_s).normal);
     expect(!loops->property("flag").toBool());
     return EXIT_SUCCESS;

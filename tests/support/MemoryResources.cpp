@@ -32,8 +32,7 @@ struct Node
     }
 };
 
-template<typename Integer>
-void append(QByteArray &bytes, Integer value)
+template<typename Integer> void append(QByteArray &bytes, Integer value)
 {
     const Integer bigEndian = qToBigEndian(value);
     bytes.append(reinterpret_cast<const char *>(&bigEndian), sizeof bigEndian);

@@ -30,23 +30,23 @@ protected:
 
 /// The main function of a test that runs in a host of the library. The host's theme files are what the test's own
 /// resources hold; loading them is not part of the test, so what it logs is dropped.
-#define LUMAKIT_TEST_MAIN(TestClass)                                                                                   \
-    int main(int argc, char **argv)                                                                                    \
-    {                                                                                                                  \
-        TestApplication::isolateSettings();                                                                            \
-        auto startLog = std::make_unique<LogRecorder>();                                                               \
-        TestApplication application(argc, argv);                                                                       \
-        startLog.reset();                                                                                              \
-        TestClass test;                                                                                                \
-        return QTest::qExec(&test, argc, argv);                                                                        \
+#define LUMAKIT_TEST_MAIN(TestClass)                     \
+    int main(int argc, char **argv)                      \
+    {                                                    \
+        TestApplication::isolateSettings();              \
+        auto startLog = std::make_unique<LogRecorder>(); \
+        TestApplication application(argc, argv);         \
+        startLog.reset();                                \
+        TestClass test;                                  \
+        return QTest::qExec(&test, argc, argv);          \
     }
 
 /// The main function of a test that runs without an application object of the library: a plain QApplication.
-#define LUMAKIT_PLAIN_TEST_MAIN(TestClass)                                                                             \
-    int main(int argc, char **argv)                                                                                    \
-    {                                                                                                                  \
-        TestApplication::isolateSettings();                                                                            \
-        QApplication application(argc, argv);                                                                          \
-        TestClass test;                                                                                                \
-        return QTest::qExec(&test, argc, argv);                                                                        \
+#define LUMAKIT_PLAIN_TEST_MAIN(TestClass)      \
+    int main(int argc, char **argv)             \
+    {                                           \
+        TestApplication::isolateSettings();     \
+        QApplication application(argc, argv);   \
+        TestClass test;                         \
+        return QTest::qExec(&test, argc, argv); \
     }

@@ -61,11 +61,16 @@ void testHits(HWND window)
     };
     // The window is at (-50, 20), 300 x 200.
     constexpr Row rows[] = {
-        {"top left", -48, 22, HTTOPLEFT},       {"top right", 248, 22, HTTOPRIGHT},
-        {"bottom left", -48, 218, HTBOTTOMLEFT}, {"bottom right", 248, 218, HTBOTTOMRIGHT},
-        {"left", -48, 120, HTLEFT},             {"right", 248, 120, HTRIGHT},
-        {"top", 100, 22, HTTOP},                {"bottom", 100, 218, HTBOTTOM},
-        {"inside", 100, 120, HTNOWHERE},        {"last pixel of the left band", -47, 120, HTLEFT},
+        {"top left", -48, 22, HTTOPLEFT},
+        {"top right", 248, 22, HTTOPRIGHT},
+        {"bottom left", -48, 218, HTBOTTOMLEFT},
+        {"bottom right", 248, 218, HTBOTTOMRIGHT},
+        {"left", -48, 120, HTLEFT},
+        {"right", 248, 120, HTRIGHT},
+        {"top", 100, 22, HTTOP},
+        {"bottom", 100, 218, HTBOTTOM},
+        {"inside", 100, 120, HTNOWHERE},
+        {"last pixel of the left band", -47, 120, HTLEFT},
         {"beside the left band", -46, 120, HTNOWHERE},
     };
     for (const Row &row : rows) {
