@@ -3,6 +3,7 @@
 #include "FixedNativeEventFilter.h"
 #include "IWApplication.h"
 #include "NativeEventFilter.h"
+#include "WPopupQuickView.h"
 #include "WQmlController.h"
 #include "WQuickView.h"
 
@@ -11,6 +12,8 @@
 #include <QFileInfo>
 #include <QQmlComponent>
 #include <QQuickItem>
+
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -82,6 +85,29 @@ QPointer<WQuickView> WQmlEngine::createQmlDialog(const QString &source, QWindow 
     view->setFlag(Qt::Dialog);
     view->setTransientParent(owner);
     view->adjustViewSize();
+    return view;
+}
+
+QPointer<WPopupQuickView> WQmlEngine::createQmlPopup(const QString &source, QWindow *parent,
+                                                     const QMap<QString, QVariant> &initialProperties,
+                                                     const ControllerCallback &callback, bool asDialog)
+{
+    const QPointer<QWindow> owner = parent;
+    const auto view =
+        createView<WPopupQuickView>(source, nullptr, FilterKind::Fixed, initialProperties, callback);
+    if (!view)
+        return view;
+    ViewOptions options;
+    options.hideOnDeactivate = true;
+    options.deleteOnClose = true;
+    options.parentWindow = owner;
+    view->setViewOptions(options);
+    view->setFlag(Qt::FramelessWindowHint);
+    if (asDialog)
+        view->setFlag(Qt::Dialog); // with Qt::Popup these are the bits of Qt::Tool, and stay so
+    view->adjustViewSize();
+    if (owner && owner->screen())
+        view->setScreen(owner->screen());
     return view;
 }
 
@@ -208,8 +234,17 @@ QPointer<View> WQmlEngine::createView(const QString &source, QWindow *parent, Fi
     else
         view->setCustomNativeHandler(std::make_shared<NativeEventFilter>(view));
     engine->watchView(view, source);
+    ControllerCallback controllerCallback = callback;
+    if constexpr (std::is_same_v<View, WPopupQuickView>) {
+        controllerCallback = [view, callback](WQmlController *controller) {
+            if (view)
+                view->setControllerView();
+            if (callback)
+                callback(controller);
+        };
+    }
     connect(view, &QQuickView::statusChanged, view, [=](QQuickView::Status status) {
-        engine->handleViewStatus(view, status, source, initialProperties, callback);
+        engine->handleViewStatus(view, status, source, initialProperties, controllerCallback);
     });
     view->setSource(sourceUrl(source));
     return view;

@@ -11,11 +11,12 @@
 #include <functional>
 
 class QWindow;
+class WPopupQuickView;
 class WQmlController;
 class WQuickView;
 struct ViewOptions;
 
-/// The one QML engine of an application, and the maker of all its QML windows, dialogs and components.
+/// The one QML engine of an application, and the maker of all its QML windows, dialogs, popups and components.
 ///
 /// The factories find the engine through the application object and load "qrc:/Qml/" + source. Each reports the life
 /// of what it makes through qmlViewStatusChanged(). Without an IWApplication they log a warning and make nothing.
@@ -60,6 +61,14 @@ public:
                                                 const QMap<QString, QVariant> &initialProperties = {},
                                                 const std::function<void(WQmlController *)> &callback = {},
                                                 bool fixedNativeFilter = false);
+
+    /// A popup of its root item's size, frameless, that hides and is deleted when it is no longer active or `parent`
+    /// moves. It is not shown yet: the caller shows it beside something. A WQmlPopupController knows the view before
+    /// the callback runs.
+    static QPointer<WPopupQuickView> createQmlPopup(const QString &source, QWindow *parent = nullptr,
+                                                    const QMap<QString, QVariant> &initialProperties = {},
+                                                    const std::function<void(WQmlController *)> &callback = {},
+                                                    bool asDialog = false);
 
     /// A QML object that is no window, loaded asynchronously and owned by `parent`. A source that cannot be loaded is
     /// never reported. A root without a controller is reported as ready, but not called back.
