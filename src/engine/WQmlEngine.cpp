@@ -93,8 +93,7 @@ QPointer<WPopupQuickView> WQmlEngine::createQmlPopup(const QString &source, QWin
                                                      const ControllerCallback &callback, bool asDialog)
 {
     const QPointer<QWindow> owner = parent;
-    const auto view =
-        createView<WPopupQuickView>(source, nullptr, FilterKind::Fixed, initialProperties, callback);
+    const auto view = createView<WPopupQuickView>(source, nullptr, FilterKind::Fixed, initialProperties, callback);
     if (!view)
         return view;
     ViewOptions options;

@@ -12,7 +12,9 @@ namespace {
 QRectF fitted(const QSize &frame, const QSizeF &item, double devicePixelRatio)
 {
     const QSizeF size = QSizeF(frame).scaled(item, Qt::KeepAspectRatio);
-    const auto snap = [devicePixelRatio](double value) { return std::round(value * devicePixelRatio) / devicePixelRatio; };
+    const auto snap = [devicePixelRatio](double value) {
+        return std::round(value * devicePixelRatio) / devicePixelRatio;
+    };
     return {snap((item.width() - size.width()) / 2), snap((item.height() - size.height()) / 2), snap(size.width()),
             snap(size.height())};
 }

@@ -15,15 +15,17 @@ namespace PopupPlacement {
 inline QPointF positionBeside(const QRectF &rect, Qt::ArrowType arrow, const QSize &popup)
 {
     const QPointF centre = rect.center();
+    const int halfWidth = popup.width() / 2;
+    const int halfHeight = popup.height() / 2;
     switch (arrow) {
     case Qt::UpArrow:
-        return {centre.x() - popup.width() / 2, rect.bottom()};
+        return {centre.x() - halfWidth, rect.bottom()};
     case Qt::DownArrow:
-        return {centre.x() - popup.width() / 2, rect.top() - popup.height()};
+        return {centre.x() - halfWidth, rect.top() - popup.height()};
     case Qt::LeftArrow:
-        return {rect.right(), centre.y() - popup.height() / 2};
+        return {rect.right(), centre.y() - halfHeight};
     case Qt::RightArrow:
-        return {rect.left() - popup.width(), centre.y() - popup.height() / 2};
+        return {rect.left() - popup.width(), centre.y() - halfHeight};
     default:
         return centre;
     }

@@ -184,8 +184,8 @@ void WQmlBalloon::paint(QPainter *painter)
     painter->setRenderHint(QPainter::Antialiasing);
 
     if (m_arrowAnchor == None) {
-        painter->drawRoundedRect(0, 0, static_cast<int>(width()), static_cast<int>(height()), m_radius, m_radius,
-                                 Qt::AbsoluteSize);
+        const QRect whole(0, 0, static_cast<int>(width()), static_cast<int>(height()));
+        painter->drawRoundedRect(whole, m_radius, m_radius, Qt::AbsoluteSize);
         return;
     }
     painter->drawPath(outline(size()));

@@ -91,7 +91,7 @@ void WQmlHalfPill::drawBorders(QPainter *painter, const QSizeF &size, const QCol
     const double roundPart = size.height() * 0.5 + width;
     const QPen pen(QBrush(color, Qt::SolidPattern), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
     const double x = (m_edge == Left ? roundPart : 0.0) - half;
-    // The ends of the lines, from the item's corner: on the left edge they run past the start of the frame.
+    // Lines end at the width and the height of the frame, not at its far edges: caps cover the difference.
     const double endX = m_edge == Right ? size.width() - roundPart : size.width();
     const double endY = size.height();
 

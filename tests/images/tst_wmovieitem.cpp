@@ -71,7 +71,10 @@ private:
             window.show();
         }
 
-        bool isExposed() { return QTest::qWaitForWindowExposed(&window) && QTest::qWaitFor([this] { return item->paints > 0; }); }
+        bool isExposed()
+        {
+            return QTest::qWaitForWindowExposed(&window) && QTest::qWaitFor([this] { return item->paints > 0; });
+        }
         QColor pixel(int x, int y)
         {
             const QImage image = window.grabWindow();
