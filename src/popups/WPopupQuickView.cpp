@@ -53,8 +53,10 @@ void WPopupQuickView::setActivationRectAndShow(const QRectF &rect, Qt::ArrowType
 
     // Always from the direction that the caller asked for: a popup that has shrunk flips back.
     const auto place = [this, arrow] {
+        const QPointer<WPopupQuickView> guard = this;
         showFrom(arrow);
-        Q_EMIT arrowOrthogonalChanged();
+        if (guard) // a listener to the flip may have closed it
+            Q_EMIT arrowOrthogonalChanged();
     };
     if (arrow == Qt::UpArrow || arrow == Qt::DownArrow) {
         connect(this, &QWindow::widthChanged, this, place);
@@ -129,7 +131,10 @@ void WPopupQuickView::showFrom(Qt::ArrowType arrow)
 {
     if (shouldFlipArrow(arrow)) {
         arrow = flipArrow(arrow);
+        const QPointer<WPopupQuickView> guard = this;
         Q_EMIT arrowFlipped(arrow);
+        if (!guard)
+            return;
     }
     const QPoint point = getPointFromActivationRect(arrow).toPoint();
     if (WApplication::isInFocus())

@@ -148,6 +148,7 @@ private Q_SLOTS:
     void growsAcross();
     void growsAlong_data();
     void growsAlong();
+    void closedByTheFlip();
     void flipsBack_data();
     void flipsBack();
     void moves_data();
@@ -540,6 +541,19 @@ void tst_WPopupQuickView::growsAlong()
     QTRY_VERIFY(size.count() > 0);
     QTRY_COMPARE(view.geometry(), QRect(before, grown));
     QCOMPARE(journal(), QStringList());
+}
+
+void tst_WPopupQuickView::closedByTheFlip()
+{
+    QVERIFY(focus());
+    auto *view = new WPopupQuickView(m_engine, nullptr, ViewOptions());
+    const QPointer<WPopupQuickView> guard = view;
+    view->resize(200, 300);
+    connect(view, &WPopupQuickView::arrowFlipped, this, [view] { delete view; });
+    QSignalSpy moved(view, &WPopupQuickView::arrowOrthogonalChanged);
+    view->showAtRect(QRectF(m_screen.left() + 300, m_screen.bottom() - 40, 20, 20), Qt::UpArrow);
+    QVERIFY(!guard);
+    QCOMPARE(moved.count(), 0);
 }
 
 void tst_WPopupQuickView::flipsBack_data()
