@@ -77,7 +77,7 @@ void tst_PopupPlacement::positionBeside_data()
     QTest::newRow("left") << button << Qt::LeftArrow << QSize(300, 200) << QPointF(150, 10);
     QTest::newRow("right") << button << Qt::RightArrow << QSize(300, 200) << QPointF(-200, 10);
     QTest::newRow("none") << button << Qt::NoArrow << QSize(300, 200) << QPointF(125, 110);
-    QTest::newRow("unknown") << button << Qt::ArrowType(17) << QSize(300, 200) << QPointF(125, 110);
+    QTest::newRow("unknown") << button << Qt::ArrowType(7) << QSize(300, 200) << QPointF(125, 110);
 
     // 301 / 2 is 150, 201 / 2 is 100
     QTest::newRow("up, odd size") << button << Qt::UpArrow << QSize(301, 201) << QPointF(-25, 120);
@@ -273,7 +273,7 @@ void tst_PopupPlacement::noArrow_data()
     QTest::addColumn<Qt::ArrowType>("arrow");
     QTest::newRow("none") << Qt::NoArrow;
     QTest::newRow("unknown") << Qt::ArrowType(5);
-    QTest::newRow("negative") << Qt::ArrowType(-1);
+    QTest::newRow("largest of the bits") << Qt::ArrowType(7);
 }
 
 void tst_PopupPlacement::noArrow()
@@ -358,7 +358,7 @@ void tst_PopupPlacement::opposite_data()
     QTest::newRow("left") << Qt::LeftArrow << Qt::RightArrow;
     QTest::newRow("right") << Qt::RightArrow << Qt::LeftArrow;
     QTest::newRow("unknown") << Qt::ArrowType(5) << Qt::NoArrow;
-    QTest::newRow("negative") << Qt::ArrowType(-1) << Qt::NoArrow;
+    QTest::newRow("largest of the bits") << Qt::ArrowType(7) << Qt::NoArrow;
 }
 
 void tst_PopupPlacement::opposite()

@@ -298,7 +298,7 @@ void tst_WPopupQuickView::points_data()
     QTest::newRow("down") << Qt::DownArrow << QPointF(-25, -100);
     QTest::newRow("left") << Qt::LeftArrow << QPointF(150, 10);
     QTest::newRow("right") << Qt::RightArrow << QPointF(-201, 10);
-    QTest::newRow("unknown") << Qt::ArrowType(9) << QPointF(125, 110);
+    QTest::newRow("unknown") << Qt::ArrowType(7) << QPointF(125, 110);
 }
 
 void tst_WPopupQuickView::points()
