@@ -47,7 +47,7 @@ function(lumakit_add_qml target)
             COMMAND Qt6::qmlcachegen --resource-path /Qml/${base} --resource ${qrc}
                     -I ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_QML} ${import_arguments}
                     -o ${unit} ${source}
-            DEPENDS ${source} ${qrc} ${import_files} Qt6::qmlcachegen
+            DEPENDS ${source} ${qrc} ${import_files} ${LUMAKIT_QML_TYPES} Qt6::qmlcachegen
             COMMENT "Compiling ${base}"
             VERBATIM)
         list(APPEND units ${unit})

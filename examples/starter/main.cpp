@@ -1,5 +1,6 @@
 #include "GreetingController.h"
 
+#include <LKQmlRegister.h>
 #include <WApplication.h>
 #include <WQmlEngine.h>
 #include <WQuickView.h>
@@ -58,6 +59,8 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(u"Starter"_s);
     StarterApplication application(argc, argv);
     qmlRegisterSingletonInstance("Corvane", 1, 0, "App", &application);
+    LKQmlRegister::registerLKQmlDataTypes();
+    LKQmlRegister::registerLKQmlComponents();
     qmlRegisterType<GreetingController>("Starter", 1, 0, "GreetingController");
     return application.showWindow() ? QApplication::exec() : 1;
 }

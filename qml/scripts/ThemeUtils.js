@@ -3,10 +3,13 @@
 // The colour of a control's state from a colour set.
 
 // For controls: disabled, pressed, hovered, focused, checked, in this order. A focus colour equal to the normal one
-// counts as none. An invalid set gives "transparent".
+// counts as none. An invalid set gives "transparent". Nothing is checked here: items that come and go have no set for
+// a moment, and too many reports would be false.
 function getColor(widget, colorSet) {
-    if (!colorSet.isValid)
+    if (!colorSet?.isValid)
         return "transparent";
+    if (!widget)
+        return colorSet.normal;
     if (widget.enabled === false)
         return colorSet.disabled;
     if (widget.pressed)
@@ -26,7 +29,7 @@ function getTextFieldColor(widget, colorSet) {
 }
 
 function textFieldColor(widget, colorSet) {
-    if (!colorSet || !colorSet.isValid)
+    if (!colorSet?.isValid)
         return "transparent";
     if (!widget || widget.readOnly)
         return colorSet.normal;
@@ -38,7 +41,7 @@ function textFieldColor(widget, colorSet) {
 }
 
 function focusedOrChecked(widget, colorSet) {
-    if (widget.activeFocus && !Qt.colorEqual(colorSet.focused, colorSet.normal))
+    if (widget.activeFocus && colorSet.focused !== colorSet.normal)
         return colorSet.focused;
     if (widget.checked)
         return colorSet.checked;
@@ -47,7 +50,7 @@ function focusedOrChecked(widget, colorSet) {
 
 function checkInput(functionName, widget, colorSet) {
     if (!widget)
-        console.error(functionName, ": null widget when getting color for colorSet:", colorSet ? colorSet.name : colorSet);
+        console.error(functionName, ": null widget when getting color for colorSet:", colorSet?.name);
     if (!colorSet)
         console.error(functionName, ": null colorset for widget:", widget);
     else if (!colorSet.isValid)
@@ -55,7 +58,7 @@ function checkInput(functionName, widget, colorSet) {
 }
 
 function checkOutput(functionName, widget, colorSet, color) {
-    if (!color || !colorSet || !colorSet.isValid)
-        console.error(functionName, "unexpected color:", color, "colorSet.name:", colorSet ? colorSet.name : colorSet,
+    if (!color || !colorSet?.isValid)
+        console.error(functionName, "unexpected color:", color, "colorSet.name:", colorSet?.name,
                       "for widget:", widget);
 }

@@ -3,6 +3,7 @@
 #include "FixedNativeEventFilter.h"
 #include "IWApplication.h"
 #include "NativeEventFilter.h"
+#include "QmlUtils.h"
 #include "WPopupQuickView.h"
 #include "WQmlController.h"
 #include "WQuickView.h"
@@ -241,12 +242,21 @@ QPointer<View> WQmlEngine::createView(const QString &source, QWindow *parent, Fi
             if (callback)
                 callback(controller);
         };
+        connect(view, &WQuickView::aboutToShow, engine, [engine, view] { engine->setPopupView(view); });
     }
     connect(view, &QQuickView::statusChanged, view, [=](QQuickView::Status status) {
         engine->handleViewStatus(view, status, source, initialProperties, controllerCallback);
     });
     view->setSource(sourceUrl(source));
     return view;
+}
+
+void WQmlEngine::setPopupView(QWindow *popup)
+{
+    // A host that has not registered the library's types has no Utils that could close the popup.
+    const int utilsType = qmlTypeId("LumakitQml", 1, 0, "Utils");
+    if (auto *utils = singletonInstance<QmlUtils *>(utilsType))
+        utils->setPopupView(popup);
 }
 
 void WQmlEngine::watchView(WQuickView *view, const QString &source)

@@ -110,6 +110,7 @@ private:
                                      const ControllerCallback &callback);
     static void reloadView(WQuickView *view);
 
+    void setPopupView(QWindow *popup);
     void watchView(WQuickView *view, const QString &source);
     void handleViewStatus(WQuickView *view, int status, const QString &source,
                           const QMap<QString, QVariant> &initialProperties, const ControllerCallback &callback);

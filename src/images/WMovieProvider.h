@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <qqmlintegration.h>
 
 /// Fetches one animated image for QML from the application's movie source, and says what to show meanwhile.
 ///
@@ -13,6 +14,7 @@
 class LUMAKITQML_EXPORT WMovieProvider : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
     /// The page to show: 0 waiting, 1 the movie, 2 the fallback image.
     Q_PROPERTY(int stackIndex MEMBER m_stackIndex NOTIFY stackIndexChanged)
     /// The movie that arrived, owned by the provider; null before.

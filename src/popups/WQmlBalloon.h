@@ -7,6 +7,7 @@
 #include <QQuickPaintedItem>
 #include <QRect>
 #include <QSize>
+#include <qqmlintegration.h>
 
 QT_BEGIN_NAMESPACE
 class QPainter;
@@ -20,6 +21,7 @@ QT_END_NAMESPACE
 class LUMAKITQML_EXPORT WQmlBalloon : public QQuickPaintedItem
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(WBalloon)
     Q_PROPERTY(ArrowAlignment arrowAlignment READ arrowAlignment WRITE setArrowAlignment NOTIFY arrowAlignmentChanged)
     Q_PROPERTY(ArrowAnchor arrowAnchor READ arrowAnchor WRITE setArrowAnchor NOTIFY arrowAnchorChanged)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor NOTIFY backgroundColorChanged)

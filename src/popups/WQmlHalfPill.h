@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QQuickPaintedItem>
+#include <qqmlintegration.h>
 
 QT_BEGIN_NAMESPACE
 class QPainter;
@@ -14,6 +15,7 @@ QT_END_NAMESPACE
 class LUMAKITQML_EXPORT WQmlHalfPill : public QQuickPaintedItem
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(WHalfPill)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor NOTIFY backgroundColorChanged)
     Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor NOTIFY borderColorChanged)
     // The rest does not repaint; it shows with the next colour that is set or the next change of the size.

@@ -5,6 +5,7 @@
 
 #include <QPointer>
 #include <QVariant>
+#include <qqmlintegration.h>
 
 class WPopupQuickView;
 
@@ -13,6 +14,7 @@ class WPopupQuickView;
 class LUMAKITQML_EXPORT WQmlPopupController : public WQmlController
 {
     Q_OBJECT
+    QML_ELEMENT
     /// A model that is an object is deleted with the controller.
     Q_PROPERTY(bool takesModelOwnership MEMBER m_takesModelOwnership NOTIFY takesModelOwnershipChanged)
     /// How far the arrow slides along its edge, pixels.

@@ -1,5 +1,6 @@
 #include "ReplacedFile.h"
 
+#include <LKQmlRegister.h>
 #include <TestCase.h>
 
 #include <QDirIterator>
@@ -79,6 +80,8 @@ void tst_AheadOfTime::initTestCase()
     // Nothing compiled by an earlier run, but what is compiled into programs counts.
     qunsetenv("QML_DISABLE_DISK_CACHE");
     qputenv("QML_DISK_CACHE", "aot");
+    LKQmlRegister::registerLKQmlDataTypes();
+    LKQmlRegister::registerLKQmlComponents();
     const QStringList files = QString::fromLatin1(QML_FILES).split(u'|', Qt::SkipEmptyParts);
     for (const QString &file : files)
         m_files << QDir(QStringLiteral(QML_FOLDER)).relativeFilePath(file);

@@ -1,6 +1,7 @@
 // A dialog of its root item's size.
 import QtQuick
 import Corvane 1.0
+import LumakitQml 1.0
 
 WRectangle {
     width: 320

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 // The window: a greeting, which arrives as a component of its own, and two links.
 import QtQuick
 import Corvane 1.0
+import LumakitQml 1.0
 
 WRectangle {
     implicitWidth: 480

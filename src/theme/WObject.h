@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-/// The common base of the library's controller objects.
+/// The common base of the library's controllers and button data.
 class LUMAKITQML_EXPORT WObject : public QObject
 {
 public:

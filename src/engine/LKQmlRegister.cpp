@@ -1,0 +1,104 @@
+#include "LKQmlRegister.h"
+
+#include "FocusRing.h"
+#include "FontTokens.h"
+#include "LKButtonSize.h"
+#include "LKButtonStyle.h"
+#include "LKButtonType.h"
+#include "LKColorData.h"
+#include "LKEventData.h"
+#include "LKIconButtonData.h"
+#include "LKPillButtonData.h"
+#include "LKQmlComponents.h"
+#include "LKRoundButtonData.h"
+#include "Logger.h"
+#include "QmlUtils.h"
+#include "RoundedPicture.h"
+#include "ToolTipTrigger.h"
+#include "ToolTipUtils.h"
+#include "UiConstants.h"
+#include "WMovieItem.h"
+#include "WMovieProvider.h"
+#include "WQmlBalloon.h"
+#include "WQmlHalfPill.h"
+#include "WQmlPopupController.h"
+
+#include <QQmlEngine>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto Uri = "LumakitQml";
+constexpr auto PrivateUri = "LumakitQml.Private"; // what only the library's own components use
+
+QUrl componentUrl(const char *name)
+{
+    return QUrl(u"qrc:/Qml/%1.qml"_s.arg(QLatin1StringView(name)));
+}
+
+template<typename T>
+void registerType(const char *name)
+{
+    qmlRegisterType<T>(Uri, 1, 0, name);
+}
+
+template<typename T>
+void registerSingleton(const char *name, const char *uri = Uri)
+{
+    qmlRegisterSingletonType<T>(uri, 1, 0, name, [](QQmlEngine *, QJSEngine *) -> QObject * { return new T; });
+}
+
+template<typename T>
+void registerUncreatable(const char *name)
+{
+    qmlRegisterUncreatableType<T>(Uri, 1, 0, name, u"%1 cannot be created from QML"_s.arg(QLatin1StringView(name)));
+}
+
+// The enum of a namespace of the same name.
+template<typename Enum>
+void registerEnums(const char *name)
+{
+    const QMetaType type = QMetaType::fromType<Enum>();
+    qmlRegisterUncreatableMetaObject(*type.metaObject(), Uri, 1, 0, name,
+                                     u"%1 enum property."_s.arg(QLatin1StringView(name)));
+    // QML that is compiled ahead of time finds the enum through a type of the namespace's name.
+    type.registerType();
+    QMetaType::registerNormalizedTypedef(name, type);
+}
+
+} // namespace
+
+void LKQmlRegister::registerLKQmlDataTypes()
+{
+    registerType<WQmlBalloon>("WBalloon");
+    registerType<WQmlHalfPill>("WHalfPill");
+    registerType<WQmlPopupController>("WQmlPopupController");
+    registerType<LKEventData>("LKEventData");
+    registerType<WMovieProvider>("WMovieProvider");
+    registerSingleton<QmlUtils>("Utils");
+    registerSingleton<ToolTipUtils>("ToolTipUtils");
+    registerSingleton<UiConstants>("UiConstants");
+    registerSingleton<Logger>("Logger");
+    registerUncreatable<LKPillButtonData>("LKPillButtonData");
+    registerUncreatable<LKRoundButtonData>("LKRoundButtonData");
+    registerUncreatable<LKIconButtonData>("LKIconButtonData");
+    registerUncreatable<LKColorData>("LKColorData");
+    registerEnums<LKButtonStyle::Style>("LKButtonStyle");
+    registerEnums<LKButtonSize::Size>("LKButtonSize");
+    registerEnums<LKButtonType::Type>("LKButtonType");
+    qmlRegisterSingletonType(componentUrl("FontConstants"), Uri, 1, 0, "FontConstants");
+
+    qmlRegisterType<FocusRing>(PrivateUri, 1, 0, "FocusRing");
+    qmlRegisterType<RoundedPicture>(PrivateUri, 1, 0, "RoundedPicture");
+    qmlRegisterType<ToolTipTrigger>(PrivateUri, 1, 0, "ToolTipTrigger");
+    qmlRegisterType<WMovieItem>(PrivateUri, 1, 0, "WMovieItem");
+    registerSingleton<FontTokens>("FontTokens", PrivateUri);
+}
+
+void LKQmlRegister::registerLKQmlComponents()
+{
+    for (const char *name : LKQmlComponents)
+        qmlRegisterType(componentUrl(name), Uri, 1, 0, name);
+}
