@@ -35,12 +35,14 @@ struct Samples
     std::vector<double> wall;
     std::vector<double> cpu;
 
-    void take(const std::function<void()> &run, int calls)
+    void take(const Measurement::Contender &contender, int calls)
     {
+        if (contender.prepare)
+            contender.prepare();
         QElapsedTimer timer;
         const double cpuStart = threadCpuNanoseconds();
         timer.start();
-        run();
+        contender.run();
         wall.push_back(double(timer.nsecsElapsed()) / calls);
         cpu.push_back((threadCpuNanoseconds() - cpuStart) / calls);
     }
@@ -79,11 +81,11 @@ bool Measurement::compare(const QString &subject, const Contender &ours, const C
 {
     Samples ourSamples;
     Samples peerSamples;
-    ours.run();
-    peer.run();
+    Samples().take(ours, calls);
+    Samples().take(peer, calls);
     for (int repetition = 0; repetition < repetitions; ++repetition) {
-        ourSamples.take(ours.run, calls);
-        peerSamples.take(peer.run, calls);
+        ourSamples.take(ours, calls);
+        peerSamples.take(peer, calls);
     }
     const double cpuRatio = median(ourSamples.cpu) / median(peerSamples.cpu);
     const double wallRatio = median(ourSamples.wall) / median(peerSamples.wall);

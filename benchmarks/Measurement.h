@@ -12,6 +12,7 @@ struct Contender
 {
     QString name;
     std::function<void()> run; ///< does the work once, or `calls` times
+    std::function<void()> prepare = {}; ///< before each run, not measured
 };
 
 /// Both run in turn, `repetitions` times after a warm-up each, so that a slow moment of the machine hits both. Returns

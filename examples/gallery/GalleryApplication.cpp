@@ -1,12 +1,16 @@
 #include "GalleryApplication.h"
 
 #include "GalleryData.h"
+#include "GalleryMovieSource.h"
 
 #include <FontManagerEnum.h>
+#include <LKQmlRegister.h>
 #include <WFont.h>
 #include <WFontManager.h>
 
 #include <QQmlEngine>
+
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +22,8 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     setLogoSvgPath(u":/Resources/logo.svg"_s);
     connect(this, &IWApplication::themeModeChanged, this, &GalleryApplication::updateTheme);
 
+    LKQmlRegister::registerLKQmlDataTypes();
+    LKQmlRegister::registerLKQmlComponents();
     constexpr auto Module = "Corvane";
     qmlRegisterSingletonInstance(Module, 1, 0, "App", this);
     qmlRegisterSingletonInstance(Module, 1, 0, "FontManager", getWFontManager());
@@ -33,6 +39,24 @@ bool GalleryApplication::isDarkTheme() const
 bool GalleryApplication::isHighContrastTheme() const
 {
     return m_isHighContrastTheme;
+}
+
+bool GalleryApplication::animationsDisabled() const
+{
+    return m_animationsDisabled;
+}
+
+void GalleryApplication::setAnimationsDisabled(bool disabled)
+{
+    m_animationsDisabled = disabled;
+}
+
+IWMovieProviderSource *GalleryApplication::getMovieProviderSource()
+{
+    using namespace std::chrono_literals;
+    if (!m_movieSource)
+        m_movieSource = new GalleryMovieSource(m_animationsDisabled ? 0ms : 900ms, !m_animationsDisabled, this);
+    return m_movieSource;
 }
 
 void GalleryApplication::updateTheme()

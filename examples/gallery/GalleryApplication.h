@@ -15,9 +15,17 @@ public:
     bool isDarkTheme() const;
     bool isHighContrastTheme() const;
 
+    Q_INVOKABLE bool animationsDisabled() const override;
+    /// Nothing moves and nothing has to be waited for. To be set before the first page is shown.
+    void setAnimationsDisabled(bool disabled);
+
+    IWMovieProviderSource *getMovieProviderSource() override;
+
 private:
     void updateTheme();
 
     bool m_isDarkTheme;
     bool m_isHighContrastTheme;
+    bool m_animationsDisabled = false;
+    IWMovieProviderSource *m_movieSource = nullptr;
 };

@@ -2,10 +2,13 @@
 
 #include "GalleryApplication.h"
 #include "GalleryData.h"
+#include "GalleryPopups.h"
 
+#include <WPopupQuickView.h>
 #include <WQuickView.h>
 
 #include <QEventLoop>
+#include <QMetaEnum>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QTextStream>
@@ -60,27 +63,67 @@ bool PictureRenderer::renderPage(int page, const QString &suffix)
     root->setProperty("currentPage", page);
     const QString name = root->property("pageName").toString();
     // A page that is longer than the window shows itself a screenful at a time; how many is known once it is laid out.
-    if (!layOut())
+    if (!layOut(m_view))
         return false;
     const int screenfuls = root->property("screenfuls").toInt();
     for (int screenful = 0; screenful < screenfuls; ++screenful) {
         root->setProperty("screenful", screenful);
         const QString number = screenfuls > 1 ? u"-%1"_s.arg(screenful + 1) : QString();
-        if (!layOut() || !save(m_folder + u"/%1%2-%3.png"_s.arg(name, number, suffix)))
+        if (!layOut(m_view) || !save(m_view, u"%1%2-%3"_s.arg(name, number, suffix)))
             return false;
     }
     root->setProperty("screenful", 0);
-    return screenfuls > 0;
+    return screenfuls > 0 && renderPopups(name, suffix);
 }
 
-bool PictureRenderer::layOut()
+// The page of the popups has an anchor to open them at.
+bool PictureRenderer::renderPopups(const QString &page, const QString &suffix)
+{
+    auto *anchor = m_view->rootObject()->findChild<QQuickItem *>(u"anchor"_s);
+    if (!anchor)
+        return true;
+    auto *popups = m_view->engine()->singletonInstance<GalleryPopups *>(u"Gallery"_s, u"Popups"_s);
+    const auto kinds = QMetaEnum::fromType<GalleryPopups::Kind>();
+    for (int i = 0; i < kinds.keyCount(); ++i) {
+        // A popup is shown while the application is active only, and closes when another window becomes active.
+        if (!activate())
+            return false;
+        popups->show(GalleryPopups::Kind(kinds.value(i)), anchor, Qt::UpArrow);
+        const QString kind = QString::fromLatin1(kinds.key(i)).toLower();
+        QQuickWindow *popup = popups->view();
+        if (!popup || !layOut(popup) || !save(popup, u"%1-%2-%3"_s.arg(page, kind, suffix)))
+            return false;
+        QEventLoop loop;
+        connect(popup, &QObject::destroyed, &loop, &QEventLoop::quit);
+        popups->hide();
+        loop.exec();
+    }
+    return true;
+}
+
+bool PictureRenderer::activate()
+{
+    m_view->requestActivate();
+    if (!m_view->isActive()) {
+        QEventLoop loop;
+        connect(m_view, &QWindow::activeChanged, &loop, &QEventLoop::quit);
+        QTimer::singleShot(5000, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    if (!m_view->isActive())
+        QTextStream(stderr) << tr("The window is not active") << Qt::endl;
+    return m_view->isActive();
+}
+
+bool PictureRenderer::layOut(QQuickWindow *window)
 {
     // Two frames: the first lays out what the change has created.
     for (int frame = 0; frame < 2; ++frame) {
         QEventLoop loop;
-        connect(m_view, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
+        connect(window, &QObject::destroyed, &loop, [&loop] { loop.exit(1); });
+        connect(window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
         QTimer::singleShot(5000, &loop, [&loop] { loop.exit(1); });
-        m_view->update();
+        window->update();
         if (loop.exec() != 0) {
             QTextStream(stderr) << tr("The window shows nothing") << Qt::endl;
             return false;
@@ -89,9 +132,10 @@ bool PictureRenderer::layOut()
     return true;
 }
 
-bool PictureRenderer::save(const QString &path)
+bool PictureRenderer::save(QQuickWindow *window, const QString &name)
 {
-    if (!m_view->grabWindow().save(path, "PNG", FastCompression)) {
+    const QString path = u"%1/%2.png"_s.arg(m_folder, name);
+    if (!window->grabWindow().save(path, "PNG", FastCompression)) {
         QTextStream(stderr) << tr("Cannot write %1").arg(path) << Qt::endl;
         return false;
     }

@@ -4,10 +4,11 @@
 #include <QStringList>
 
 class GalleryApplication;
+class QQuickWindow;
 class WQuickView;
 
-/// Takes a picture of every page of the gallery, in every theme, and in one theme mirrored and at the largest font
-/// scale.
+/// Takes a picture of every page and every popup of the gallery, in every theme, and in one theme mirrored and at the
+/// largest font scale.
 class PictureRenderer : public QObject
 {
     Q_OBJECT
@@ -22,8 +23,10 @@ public:
 private:
     bool renderPages(const QString &suffix);
     bool renderPage(int page, const QString &suffix);
-    bool layOut();
-    bool save(const QString &path);
+    bool renderPopups(const QString &page, const QString &suffix);
+    bool activate();
+    bool layOut(QQuickWindow *window);
+    bool save(QQuickWindow *window, const QString &name);
 
     GalleryApplication *m_application;
     WQuickView *m_view;

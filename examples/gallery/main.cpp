@@ -28,6 +28,7 @@ int main(int argc, char **argv)
     }
 
     GalleryApplication application(argc, argv);
+    application.setAnimationsDisabled(renders);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Shows what LumakitQml has."_s);

@@ -22,7 +22,7 @@ public:
 
     void setRing(const QColor &color, double radius)
     {
-        m_color = color;
+        m_color = color.isValid() ? color : QColor(Qt::transparent); // no colour set, no ring
         m_radius = radius;
         update();
     }
@@ -207,8 +207,9 @@ void FocusRing::updateRing()
     if (!m_ring)
         return;
     const double margin = m_offset + Thickness;
+    const QSizeF inner = m_ring->parentItem()->size();
     m_ring->setPosition({-margin, -margin});
-    m_ring->setSize(m_ring->parentItem()->size() + QSizeF(2 * margin, 2 * margin));
+    m_ring->setSize(inner + QSizeF(2 * margin, 2 * margin));
     static_cast<RingItem *>(m_ring.data())
         ->setRing(WThemeUtils::getColorSet(m_colorSetName.toStdString()).normal,
                   std::max(0.0, m_radius + m_offset + Thickness / 2));

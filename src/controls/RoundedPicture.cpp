@@ -13,7 +13,8 @@ QImage rounded(const QImage &picture, const QSize &size, double radius)
 {
     const QSize seen = QSizeF(size).scaled(picture.size(), Qt::KeepAspectRatio).toSize().expandedTo({1, 1});
     const QPoint corner((picture.width() - seen.width()) / 2, (picture.height() - seen.height()) / 2);
-    const QImage fitting = picture.copy(QRect(corner, seen)).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage fitting =
+        picture.copy(QRect(corner, seen)).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 
     QImage result(size, QImage::Format_ARGB32_Premultiplied);
     result.fill(Qt::transparent);

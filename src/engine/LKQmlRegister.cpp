@@ -1,5 +1,8 @@
 #include "LKQmlRegister.h"
 
+#include "ButtonBackground.h"
+#include "ButtonContent.h"
+#include "ButtonTemplate.h"
 #include "FocusRing.h"
 #include "FontTokens.h"
 #include "LKButtonSize.h"
@@ -14,8 +17,10 @@
 #include "Logger.h"
 #include "QmlUtils.h"
 #include "RoundedPicture.h"
+#include "SessionModel.h"
 #include "ToolTipTrigger.h"
 #include "ToolTipUtils.h"
+#include "ToolTips.h"
 #include "UiConstants.h"
 #include "WMovieItem.h"
 #include "WMovieProvider.h"
@@ -90,11 +95,22 @@ void LKQmlRegister::registerLKQmlDataTypes()
     registerEnums<LKButtonType::Type>("LKButtonType");
     qmlRegisterSingletonType(componentUrl("FontConstants"), Uri, 1, 0, "FontConstants");
 
+    qmlRegisterType<ButtonBackground>(PrivateUri, 1, 0, "ButtonBackground");
+    qmlRegisterType<ButtonContent>(PrivateUri, 1, 0, "ButtonContent");
+    qmlRegisterType<ButtonTemplate>(PrivateUri, 1, 0, "ButtonTemplate");
+    // Whatever version of Qt a property of its bases has come with, it is there.
+    constexpr int AnyRevision = 254;
+    qmlRegisterRevision<QQuickItem, AnyRevision>(PrivateUri, 1, 0);
+    qmlRegisterRevision<QQuickControl, AnyRevision>(PrivateUri, 1, 0);
+    qmlRegisterRevision<QQuickAbstractButton, AnyRevision>(PrivateUri, 1, 0);
+    qmlRegisterRevision<QQuickButton, AnyRevision>(PrivateUri, 1, 0);
     qmlRegisterType<FocusRing>(PrivateUri, 1, 0, "FocusRing");
     qmlRegisterType<RoundedPicture>(PrivateUri, 1, 0, "RoundedPicture");
+    qmlRegisterType<SessionModel>(PrivateUri, 1, 0, "SessionModel");
     qmlRegisterType<ToolTipTrigger>(PrivateUri, 1, 0, "ToolTipTrigger");
     qmlRegisterType<WMovieItem>(PrivateUri, 1, 0, "WMovieItem");
     registerSingleton<FontTokens>("FontTokens", PrivateUri);
+    registerSingleton<ToolTips>("ToolTips", PrivateUri);
 }
 
 void LKQmlRegister::registerLKQmlComponents()

@@ -1,5 +1,6 @@
 #include "LKColorData.h"
 
+#include "IWApplication.h"
 #include "LKEventData.h"
 #include "WThemeUtils.h"
 
@@ -7,6 +8,9 @@ namespace {
 
 WColorSet findColorSet(const QString &token)
 {
+    // The application's own look-up needs no conversion of the name.
+    if (const auto *application = qobject_cast<IWApplication *>(QCoreApplication::instance()))
+        return application->getColorSet(token);
     return WThemeUtils::getColorSet(token.toStdString());
 }
 

@@ -7,7 +7,10 @@ import Gallery 1.0
 WRectangle {
     id: root
 
-    readonly property list<string> pages: ["Tokens", "Fonts", "Icons"]
+    // Behind the pages of their own a page for each family of components.
+    readonly property list<string> ownPages: ["Tokens", "Fonts", "Icons", "Balloons", "Popups", "Movies"]
+    readonly property list<string> pages: [...ownPages, ...Components.families]
+    readonly property bool isFamily: currentPage >= ownPages.length
     readonly property list<real> fontScales: [0.5, 0.75, 1, 1.25, 1.5]
     readonly property int pageCount: pages.length
     readonly property string pageName: pages[currentPage].toLowerCase()
@@ -28,6 +31,12 @@ WRectangle {
         property: "screenful"
         value: root.screenful
     }
+    Binding {
+        target: root.page
+        property: "family"
+        value: root.pages[root.currentPage]
+        when: root.isFamily && root.page instanceof GalleryComponentsPage
+    }
 
     ColumnLayout {
         anchors.fill: parent
@@ -47,11 +56,6 @@ WRectangle {
                 anchors.margins: 16
                 spacing: 24
 
-                GalleryChoice {
-                    options: root.pages
-                    current: root.currentPage
-                    onChosen: index => root.currentPage = index
-                }
                 GalleryChoice {
                     options: ["Light", "Dark", "High contrast"]
                     current: Gallery.themeModes.indexOf(App.themeMode)
@@ -75,12 +79,29 @@ WRectangle {
             implicitHeight: 1
             backgroundColorSetName: "separator-primary"
         }
-        Loader {
-            id: loader
-
+        RowLayout {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            source: "qrc:/Qml/Gallery" + root.pages[root.currentPage] + "Page.qml"
+            spacing: 0
+
+            GalleryNavigation {
+                Layout.fillHeight: true
+                pages: root.pages
+                current: root.currentPage
+                onChosen: index => root.currentPage = index
+            }
+            WRectangle {
+                Layout.fillHeight: true
+                implicitWidth: 1
+                backgroundColorSetName: "separator-primary"
+            }
+            Loader {
+                id: loader
+
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                source: "qrc:/Qml/Gallery" + (root.isFamily ? "Components" : root.pages[root.currentPage]) + "Page.qml"
+            }
         }
     }
 }

@@ -1,0 +1,23 @@
+import QtQuick
+import LumakitQml 1.0
+
+GallerySample {
+    subject: flickable
+
+    WFlickableTextEdit {
+        id: flickable
+        width: 240
+        height: 64
+        accessibleText: "Notes"
+        textEdit.text: "A text to edit.\nIt is longer than its place,\nso that it scrolls\nand the cursor\nstays in sight."
+    }
+    WFlickableTextEdit {
+        width: 240
+        textEdit.text: "Short"
+    }
+    WFlickableTextEdit {
+        width: 240
+        textEdit.text: "Disabled"
+        enabled: false
+    }
+}

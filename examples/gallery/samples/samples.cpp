@@ -1,0 +1,1 @@
+// The samples are QML; a library needs one file of C++.

@@ -1,0 +1,138 @@
+pragma ComponentBehavior: Bound
+
+// Panes side by side, or one above the other, with handles to divide the room between them: by the mouse or, with the
+// focus on a handle, by the arrow keys, Page Up and Down, Home and End.
+//
+//     WSplitView {
+//         WPane { SplitView.preferredWidth: 240; SplitView.minimumWidth: 160 }
+//         WPane { SplitView.fillWidth: true }
+//     }
+import QtQuick
+import QtQuick.Templates as T
+import Corvane 1.0
+import LumakitQml.Private 1.0
+import "ThemeUtils.js" as ThemeUtils
+
+T.SplitView {
+    id: control
+
+    // The lines between the panes.
+    property string separatorColorSetName: "separator-primary"
+    // The grips in their middle.
+    property string handleColorSetName: "scrollbar-thumb-background"
+    // What a screen reader calls the handles.
+    property string handleAccessibleName: ""
+    // How far an arrow key moves a handle, pixels; Page Up and Down move it four times as far.
+    property int step: 16
+    property var themeType: App.themeMode
+    property var separatorColorSet: themeType === undefined ? null : App.getColorSet(separatorColorSetName)
+    property var handleColorSet: themeType === undefined ? null : App.getColorSet(handleColorSetName)
+
+    // Moves a handle by that many pixels, as far as the panes' smallest and largest sizes allow. Like a drag it sizes a
+    // pane beside the handle; the pane that fills the view gives or takes.
+    function moveHandle(handle: Item, distance: real) {
+        const isHorizontal = orientation === Qt.Horizontal;
+        const extent = isHorizontal ? "width" : "height";
+        const suffix = isHorizontal ? "Width" : "Height";
+        const panes = [];
+        for (let i = 0; i < count; ++i) {
+            if (itemAt(i).visible)
+                panes.push(itemAt(i));
+        }
+        const after = panes.findIndex(pane => isHorizontal ? pane.x > handle.x : pane.y > handle.y);
+        if (after < 1)
+            return;
+        const filling = panes.findIndex(pane => pane.T.SplitView["fill" + suffix]);
+        const fill = filling < 0 ? panes.length - 1 : filling;
+        const pane = panes[fill < after ? after : after - 1];
+        const limits = pane.T.SplitView;
+        const room = panes[fill][extent] - panes[fill].T.SplitView["minimum" + suffix];
+        const largest = Math.min(limits["maximum" + suffix], pane[extent] + Math.max(0, room));
+        const wanted = pane[extent] + (fill < after ? -distance : distance);
+        limits["preferred" + suffix] = Math.max(limits["minimum" + suffix], Math.min(wanted, largest));
+    }
+
+    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                            implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
+                             implicitContentHeight + topPadding + bottomPadding)
+
+    handle: Item {
+        id: handle
+
+        readonly property bool isHorizontal: control.orientation === Qt.Horizontal
+        readonly property bool hovered: T.SplitHandle.hovered
+        readonly property bool pressed: T.SplitHandle.pressed
+        readonly property color lineColor: ThemeUtils.getColor(control, control.separatorColorSet)
+
+        function handleKey(event: KeyEvent) {
+            const back = isHorizontal ? Qt.Key_Left : Qt.Key_Up;
+            const forth = isHorizontal ? Qt.Key_Right : Qt.Key_Down;
+            const end = isHorizontal ? control.width : control.height;
+            event.accepted = true;
+            switch (event.key) {
+            case back:
+                control.moveHandle(handle, -control.step);
+                break;
+            case forth:
+                control.moveHandle(handle, control.step);
+                break;
+            case Qt.Key_PageUp:
+                control.moveHandle(handle, -4 * control.step);
+                break;
+            case Qt.Key_PageDown:
+                control.moveHandle(handle, 4 * control.step);
+                break;
+            case Qt.Key_Home:
+                control.moveHandle(handle, -end);
+                break;
+            case Qt.Key_End:
+                control.moveHandle(handle, end);
+                break;
+            default:
+                event.accepted = false;
+            }
+        }
+
+        implicitWidth: isHorizontal ? 8 : control.width
+        implicitHeight: isHorizontal ? control.height : 8
+        activeFocusOnTab: true
+
+        Keys.onPressed: event => handleKey(event)
+
+        Accessible.role: Accessible.Splitter
+        Accessible.name: control.handleAccessibleName
+        Accessible.focusable: true
+        Accessible.onIncreaseAction: control.moveHandle(handle, control.step)
+        Accessible.onDecreaseAction: control.moveHandle(handle, -control.step)
+
+        Rectangle {
+            x: handle.isHorizontal ? 3 : 0
+            y: handle.isHorizontal ? 0 : 3
+            width: handle.isHorizontal ? 1 : grip.x - 4
+            height: handle.isHorizontal ? grip.y - 4 : 1
+            color: handle.lineColor
+        }
+        Rectangle {
+            x: handle.isHorizontal ? 3 : grip.x + grip.width + 4
+            y: handle.isHorizontal ? grip.y + grip.height + 4 : 3
+            width: handle.isHorizontal ? 1 : handle.width - x
+            height: handle.isHorizontal ? handle.height - y : 1
+            color: handle.lineColor
+        }
+        Rectangle {
+            id: grip
+            x: Math.round((handle.width - width) / 2)
+            y: Math.round((handle.height - height) / 2)
+            width: handle.isHorizontal ? 4 : 24
+            height: handle.isHorizontal ? 24 : 4
+            radius: 2
+            color: ThemeUtils.getColor(handle, control.handleColorSet)
+        }
+        FocusRing {
+            around: grip
+            radius: 2
+            offset: 0
+        }
+    }
+}

@@ -1,0 +1,160 @@
+pragma ComponentBehavior: Bound
+
+// A row of a list of keyboard shortcuts: what the keys do, the keys, and buttons to give it keys and for more.
+//
+//     LKKeyboardShortcutsItemDelegate {
+//         title: "Mute"
+//         keySequence: "Ctrl+M"
+//         globalLabelIsVisible: true
+//         globalLabelText: "Global"
+//         moreButtonIsVisible: true
+//         moreButtonTooltipText: "More"
+//         onMoreButtonClicked: around => menu.open(around)
+//     }
+import QtQuick
+import QtQuick.Layouts
+import LumakitQml 1.0
+import LumakitQml.Private 1.0
+
+WRectangle {
+    id: root
+
+    property string title: ""
+    property bool moreButtonIsVisible: false
+    property bool moreButtonIsEnabled: true
+    property string moreButtonTooltipText: ""
+    // The button that stands in for the keys where there are none.
+    property bool addButtonIsVisible: false
+    property bool addButtonIsEnabled: true
+    property string addButtonText: ""
+    // Says that the keys are heard in other applications too.
+    property bool globalLabelIsVisible: false
+    property string globalLabelText: ""
+    // As it is shown, such as "Ctrl+M"; none if empty.
+    property string keySequence: ""
+    readonly property bool pressed: mouseArea.pressed
+    readonly property bool hovered: hoverHandler.hovered
+    // Whether the row is shown as chosen.
+    property bool checked: false
+    property string titleColorSetName: "listitem-textprimary"
+    property string focusColorSetName: "global-focus-outline"
+
+    // The row, by mouse, Space, Enter, Return or a screen reader.
+    signal clicked
+    signal addButtonClicked
+    // `around` is the button.
+    signal moreButtonClicked(around: Item)
+
+    function clickByKey(event: KeyEvent): void {
+        if (!event.isAutoRepeat)
+            clicked();
+    }
+
+    implicitWidth: Math.ceil(row.implicitWidth) + row.anchors.leftMargin + row.anchors.rightMargin
+    implicitHeight: Math.max(40, Math.ceil(row.implicitHeight) + 8)
+    radius: 4
+    activeFocusOnTab: true
+    backgroundColorSetName: "listitem-background"
+
+    Keys.onSpacePressed: event => clickByKey(event)
+    Keys.onReturnPressed: event => clickByKey(event)
+    Keys.onEnterPressed: event => clickByKey(event)
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title
+    Accessible.description: globalLabelIsVisible && globalLabelText !== "" ? keySequence + ", " + globalLabelText
+                                                                           : keySequence
+    Accessible.focusable: true
+    Accessible.selectable: true
+    Accessible.selected: checked
+    Accessible.onPressAction: clicked()
+
+    HoverHandler {
+        id: hoverHandler
+    }
+    MouseArea {
+        id: mouseArea
+
+        anchors.fill: parent
+        onClicked: {
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.clicked();
+        }
+    }
+    RowLayout {
+        id: row
+
+        anchors.fill: parent
+        anchors.leftMargin: 12
+        anchors.rightMargin: 8
+        spacing: 8
+
+        WTextElide {
+            Layout.fillWidth: true
+            text: root.title
+            controlsTarget: root
+            textColorSetName: root.titleColorSetName
+            Accessible.ignored: true
+        }
+        Loader {
+            active: root.globalLabelIsVisible
+            visible: active
+            sourceComponent: LKTag {
+                text: root.globalLabelText
+                enabled: root.enabled
+                Accessible.ignored: true
+            }
+        }
+        Loader {
+            active: root.keySequence !== ""
+            visible: active
+            sourceComponent: WFrame {
+                implicitWidth: Math.ceil(keys.implicitWidth) + 16
+                implicitHeight: Math.max(24, Math.ceil(keys.implicitHeight) + 4)
+                radius: 4
+                backgroundColorSetName: "shortcutinput-inactive-background"
+                borderColorSetName: "shortcutinput-inactive-border"
+
+                WText {
+                    id: keys
+
+                    anchors.centerIn: parent
+                    text: root.keySequence
+                    textColorSetName: "shortcutinput-inactive-text"
+                    Accessible.ignored: true
+                }
+            }
+        }
+        Loader {
+            active: root.addButtonIsVisible && root.keySequence === ""
+            visible: active
+            sourceComponent: WButton {
+                implicitHeight: Math.max(28, Math.ceil(implicitContentHeight) + 4)
+                verticalPadding: 2
+                isRectangle: false
+                text: root.addButtonText
+                enabled: root.addButtonIsEnabled
+                onTriggered: root.addButtonClicked()
+            }
+        }
+        Loader {
+            active: root.moreButtonIsVisible
+            visible: active
+            sourceComponent: WSvgIconButton {
+                id: moreButton
+
+                implicitHeight: 28
+                iconName: "more-horizontal-bold"
+                tooltip: root.moreButtonTooltipText
+                enabled: root.moreButtonIsEnabled
+                onTriggered: root.moreButtonClicked(moreButton)
+            }
+        }
+    }
+    FocusRing {
+        target: root
+        radius: root.radius
+        offset: -2
+        colorSetName: root.focusColorSetName
+    }
+}

@@ -1,0 +1,51 @@
+#include "ButtonBackground.h"
+
+#include "LKColorData.h"
+
+#include <algorithm>
+
+ButtonBackground::ButtonBackground(QQuickItem *parent)
+    : QQuickRectangle(parent)
+{
+}
+
+QObject *ButtonBackground::buttonData() const
+{
+    return m_data;
+}
+
+void ButtonBackground::setButtonData(QObject *buttonData)
+{
+    if (m_data == buttonData)
+        return;
+    // Without a meta-object of its own the common base is no target of qobject_cast.
+    m_data = dynamic_cast<LKButtonColors *>(buttonData);
+    if (m_data) {
+        connect(m_data->backgroundColorData(), &LKColorData::colorChanged, this, &ButtonBackground::updateColors);
+        connect(m_data->borderColorData(), &LKColorData::colorChanged, this, &ButtonBackground::updateColors);
+        updateColors();
+    }
+    Q_EMIT buttonDataChanged();
+}
+
+void ButtonBackground::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickRectangle::geometryChange(newGeometry, oldGeometry);
+    if (m_roundEnds)
+        setRadius(std::min(newGeometry.width(), newGeometry.height()) / 2);
+}
+
+void ButtonBackground::updateColors()
+{
+    if (!m_data)
+        return;
+    if (const LKColorData *background = m_data->backgroundColorData())
+        setColor(background->color());
+    const LKColorData *borderData = m_data->borderColorData();
+    const bool hasBorder = borderData && borderData->color().alpha() > 0;
+    if (!hasBorder && !m_hasBorder)
+        return; // asking for the pen would make one
+    m_hasBorder = true;
+    border()->setWidth(hasBorder ? 1 : 0);
+    border()->setColor(hasBorder ? borderData->color() : QColor(Qt::transparent));
+}

@@ -1,0 +1,519 @@
+#include <ComponentTest.h>
+
+#include <QAccessible>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Reason { Tab, Backtab, Click, Restore }; // as LKFocusManager.FocusReason
+
+// Three buttons in a manager named "manager", between two buttons that no manager knows.
+QByteArray threeButtons(const QByteArray &properties)
+{
+    return "Column { WButton { objectName: 'before' } LKFocusManager { objectName: 'manager'; width: 100; height: 100;"
+           " activeFocusOnTab: true; focusableItems: [a, b, c]; "
+           + properties
+           + " WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b' } WButton { id: c; objectName: 'c' } }"
+             " WButton { objectName: 'after' } }";
+}
+
+} // namespace
+
+class tst_FocusManager : public ComponentTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void defaults();
+    void enums();
+    void hiddenChild();
+    void startsByKey_data();
+    void startsByKey();
+    void tabMovesOn();
+    void skipsUnusable_data();
+    void skipsUnusable();
+    void nothingUsable();
+    void escape();
+    void forcedNavigation_data();
+    void forcedNavigation();
+    void takesFocusItself_data();
+    void takesFocusItself();
+    void handsOverWithoutWrapping();
+    void withoutEnclosingManager();
+    void proxy();
+    void nestedWalk();
+    void loaders();
+    void listView();
+    void longListView();
+    void losingFocus();
+    void restore();
+    void directFocus();
+    void focusByClick();
+    void mouseClick();
+    void beforeHandling();
+    void vanishingItem();
+    void indexIsClamped();
+
+private:
+    QString focused() const;
+    QVariant call(QObject *manager, const char *function) const;
+    QStringList walk(Qt::Key key, int steps) const;
+};
+
+// The object name of the item that has the focus.
+QString tst_FocusManager::focused() const
+{
+    const QQuickItem *item = window()->activeFocusItem();
+    return item ? item->objectName() : QString();
+}
+
+QVariant tst_FocusManager::call(QObject *manager, const char *function) const
+{
+    QVariant result;
+    const QMetaObject *meta = manager->metaObject();
+    const int index = meta->indexOfMethod(QByteArray(function) + "()");
+    if (index < 0) {
+        qCritical() << "no function" << function;
+        return result;
+    }
+    const QMetaMethod method = meta->method(index);
+    if (method.returnMetaType() == QMetaType::fromType<int>()) {
+        int value = 0;
+        method.invoke(manager, qReturnArg(value));
+        return value;
+    }
+    if (method.returnMetaType() == QMetaType::fromType<bool>()) {
+        bool value = false;
+        method.invoke(manager, qReturnArg(value));
+        return value;
+    }
+    if (method.returnMetaType() == QMetaType::fromType<QVariant>())
+        method.invoke(manager, qReturnArg(result));
+    else
+        method.invoke(manager);
+    return result;
+}
+
+QStringList tst_FocusManager::walk(Qt::Key key, int steps) const
+{
+    QStringList names;
+    for (int i = 0; i < steps; ++i) {
+        press(key);
+        names << focused();
+    }
+    return names;
+}
+
+void tst_FocusManager::defaults()
+{
+    QVERIFY(show("Item { LKFocusManager { objectName: 'manager' } }"));
+    auto *manager = find(u"manager"_s);
+    QCOMPARE(manager->property("isNavigating").toBool(), false);
+    QCOMPARE(manager->property("focusableItems").value<QVariantList>(), QVariantList());
+    QCOMPARE(manager->property("wrapAround").toBool(), true);
+    QCOMPARE(manager->property("forceNavigation").toBool(), false);
+    QCOMPARE(manager->property("focusReason").toInt(), int(Tab));
+    QCOMPARE(manager->property("currentFocusedIndex").toInt(), 0);
+    QCOMPARE(call(manager, "getCurrentFocusedIndex"), -1);
+    QCOMPARE(call(manager, "isManagingListView"), false);
+    QCOMPARE(call(manager, "count"), 0);
+    QVERIFY(!call(manager, "getActiveFocusedItem").isValid());
+}
+
+void tst_FocusManager::enums()
+{
+    auto *item = show("Item { property var values: [LKFocusManager.FocusReason.Tab, LKFocusManager.FocusReason.Backtab,"
+                      " LKFocusManager.FocusReason.Click, LKFocusManager.FocusReason.Restore] }");
+    QVERIFY(item);
+    QCOMPARE(item->property("values").value<QVariantList>(), (QVariantList{0, 1, 2, 3}));
+}
+
+void tst_FocusManager::hiddenChild()
+{
+    QVERIFY(show("Item { LKFocusManager { objectName: 'manager'; Accessible.name: 'Meeting' } }"));
+    auto *dummy = find(u"dummy-of-manager"_s);
+    QVERIFY(dummy);
+    QCOMPARE(dummy->size(), QSizeF(0, 0));
+    auto *attached = dummy->findChild<QObject *>(Qt::FindDirectChildrenOnly); // the Accessible of the item
+    QVERIFY(attached);
+    QCOMPARE(attached->property("ignored").toBool(), true);
+    QCOMPARE(attached->property("focusable").toBool(), false);
+    QCOMPARE(attached->property("role").toInt(), int(QAccessible::NoRole));
+    QCOMPARE(attached->property("name").toString(), u"Meeting"_s);
+}
+
+void tst_FocusManager::startsByKey_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("focus");
+    QTest::newRow("enter") << int(Qt::Key_Enter) << u"a"_s;
+    QTest::newRow("return") << int(Qt::Key_Return) << u"a"_s;
+    QTest::newRow("space") << int(Qt::Key_Space) << u"a"_s;
+    QTest::newRow("another key") << int(Qt::Key_X) << u"manager"_s;
+    QTest::newRow("escape") << int(Qt::Key_Escape) << u"manager"_s;
+}
+
+void tst_FocusManager::startsByKey()
+{
+    QFETCH(const int, key);
+    QFETCH(const QString, focus);
+    QVERIFY(show(threeButtons("")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus(Qt::TabFocusReason);
+    QCOMPARE(focused(), u"manager"_s);
+    QCOMPARE(manager->property("isNavigating").toBool(), false);
+    press(Qt::Key(key));
+    QCOMPARE(focused(), focus);
+    QCOMPARE(manager->property("isNavigating").toBool(), focus == u"a"_s);
+}
+
+void tst_FocusManager::tabMovesOn()
+{
+    QVERIFY(show(threeButtons("")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    QCOMPARE(walk(Qt::Key_Tab, 4), QStringList({u"b"_s, u"c"_s, u"a"_s, u"b"_s}));
+    QCOMPARE(walk(Qt::Key_Backtab, 4), QStringList({u"a"_s, u"c"_s, u"b"_s, u"a"_s}));
+    QCOMPARE(call(manager, "getCurrentFocusedIndex"), 0);
+    QCOMPARE(call(manager, "getActiveFocusedItem").value<QObject *>(), find(u"a"_s));
+    QCOMPARE(manager->property("focusReason").toInt(), int(Backtab));
+}
+
+void tst_FocusManager::skipsUnusable_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::newRow("disabled") << QByteArray("enabled");
+    QTest::newRow("invisible") << QByteArray("visible");
+}
+
+void tst_FocusManager::skipsUnusable()
+{
+    QFETCH(const QByteArray, property);
+    QVERIFY(show(threeButtons("")));
+    find(u"b"_s)->setProperty(property, false);
+    find(u"manager"_s)->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    QCOMPARE(walk(Qt::Key_Tab, 2), QStringList({u"c"_s, u"a"_s}));
+    QCOMPARE(walk(Qt::Key_Backtab, 2), QStringList({u"c"_s, u"a"_s}));
+}
+
+void tst_FocusManager::nothingUsable()
+{
+    QVERIFY(show(threeButtons("")));
+    auto *manager = find(u"manager"_s);
+    for (const auto &name : {u"a"_s, u"b"_s, u"c"_s})
+        find(name)->setEnabled(false);
+    manager->forceActiveFocus(Qt::TabFocusReason);
+    for (const char *function : {"focusNext", "focusPrevious", "startNavigation"}) {
+        call(manager, function);
+        QCOMPARE(focused(), u"manager"_s);
+    }
+    manager->setProperty("focusableItems", QVariantList());
+    for (const char *function : {"focusNext", "focusPrevious"}) {
+        call(manager, function);
+        QCOMPARE(focused(), u"manager"_s);
+    }
+}
+
+void tst_FocusManager::escape()
+{
+    QVERIFY(show(threeButtons("")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"b"_s);
+    press(Qt::Key_Escape);
+    QCOMPARE(focused(), u"dummy-of-manager"_s);
+    QCOMPARE(manager->property("isNavigating").toBool(), false);
+    QVERIFY(manager->hasActiveFocus());
+    QVERIFY(!call(manager, "getActiveFocusedItem").isValid());
+    press(Qt::Key_Return); // anew from the first
+    QCOMPARE(focused(), u"a"_s);
+}
+
+void tst_FocusManager::forcedNavigation_data()
+{
+    QTest::addColumn<int>("reason");
+    QTest::addColumn<QString>("focus");
+    QTest::newRow("tab") << int(Tab) << u"a"_s;
+    QTest::newRow("backtab") << int(Backtab) << u"c"_s;
+    QTest::newRow("click") << int(Click) << u"b"_s;
+}
+
+void tst_FocusManager::forcedNavigation()
+{
+    QFETCH(const int, reason);
+    QFETCH(const QString, focus);
+    QVERIFY(show(threeButtons("forceNavigation: true; currentFocusedIndex: 1;")));
+    auto *manager = find(u"manager"_s);
+    manager->setProperty("focusReason", reason);
+    manager->forceActiveFocus();
+    QCOMPARE(focused(), focus);
+    QCOMPARE(manager->property("isNavigating").toBool(), true);
+    press(Qt::Key_Escape);
+    QCOMPARE(focused(), focus);
+    QCOMPARE(manager->property("isNavigating").toBool(), true);
+}
+
+void tst_FocusManager::takesFocusItself_data()
+{
+    QTest::addColumn<int>("reason");
+    QTest::newRow("tab") << int(Tab);
+    QTest::newRow("backtab") << int(Backtab);
+    QTest::newRow("click") << int(Click);
+    QTest::newRow("restore") << int(Restore);
+}
+
+// Also where one of its items had the focus before.
+void tst_FocusManager::takesFocusItself()
+{
+    QFETCH(const int, reason);
+    QVERIFY(show(threeButtons("")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    QCOMPARE(focused(), u"a"_s);
+    find(u"before"_s)->forceActiveFocus();
+    QCOMPARE(manager->property("isNavigating").toBool(), false);
+    manager->setProperty("focusReason", reason);
+    manager->forceActiveFocus();
+    QCOMPARE(focused(), u"manager"_s);
+    QCOMPARE(manager->property("isNavigating").toBool(), false);
+}
+
+void tst_FocusManager::handsOverWithoutWrapping()
+{
+    QVERIFY(show("LKFocusManager { objectName: 'outer'; forceNavigation: true; focusableItems: [inner, last]; width: 9;"
+                 " height: 9; LKFocusManager { id: inner; objectName: 'inner'; wrapAround: false; focusableItems: [a, b];"
+                 " WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b' } }"
+                 " WButton { id: last; objectName: 'last' } }"));
+    auto *inner = find(u"inner"_s);
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    QCOMPARE(focused(), u"inner"_s);
+    press(Qt::Key_Return);
+    QCOMPARE(focused(), u"a"_s);
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"b"_s);
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"last"_s);
+    QCOMPARE(inner->property("isNavigating").toBool(), false);
+    QCOMPARE(call(root(), "getCurrentFocusedIndex"), 1);
+    press(Qt::Key_Backtab);
+    QCOMPARE(focused(), u"inner"_s);
+    QCOMPARE(inner->property("focusReason").toInt(), int(Backtab));
+}
+
+void tst_FocusManager::withoutEnclosingManager()
+{
+    QVERIFY(show(threeButtons("wrapAround: false;")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    QCOMPARE(walk(Qt::Key_Tab, 3), QStringList({u"b"_s, u"c"_s, u"c"_s}));
+    QCOMPARE(manager->property("isNavigating").toBool(), true);
+    QCOMPARE(walk(Qt::Key_Backtab, 3), QStringList({u"b"_s, u"a"_s, u"a"_s}));
+}
+
+void tst_FocusManager::proxy()
+{
+    QVERIFY(show("LKFocusManager { objectName: 'outer'; focusableItems: [first, proxy]; width: 9; height: 9;"
+                 " WButton { id: first; objectName: 'first' }"
+                 " LKFocusManagerProxy { id: proxy; objectName: 'proxy'; target: field;"
+                 " WButton { id: field; objectName: 'field'; width: 70; height: 30 } } }"));
+    auto *proxy = find(u"proxy"_s);
+    QCOMPARE(proxy->size(), QSizeF(70, 30));
+    QCOMPARE(proxy->property("forceNavigation").toBool(), true);
+    QCOMPARE(proxy->property("wrapAround").toBool(), false);
+    QCOMPARE(call(proxy, "count"), 1);
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    QCOMPARE(walk(Qt::Key_Tab, 3), QStringList({u"field"_s, u"first"_s, u"field"_s}));
+    QCOMPARE(walk(Qt::Key_Backtab, 2), QStringList({u"first"_s, u"field"_s}));
+    press(Qt::Key_Escape); // not the proxy's
+    QCOMPARE(focused(), u"dummy-of-outer"_s);
+    QCOMPARE(root()->property("isNavigating").toBool(), false);
+}
+
+// A chain of managers is walked from end to end and back by Tab and Backtab alone.
+void tst_FocusManager::nestedWalk()
+{
+    QVERIFY(show("LKFocusManager { objectName: 'top'; forceNavigation: true; focusableItems: [one, two, three]; width: 9;"
+                 " height: 9; WButton { id: one; objectName: '1' }"
+                 " LKFocusManager { id: two; forceNavigation: true; wrapAround: false; focusableItems: [x, y];"
+                 "  LKFocusManager { id: x; forceNavigation: true; wrapAround: false; focusableItems: [p, q];"
+                 "   WButton { id: p; objectName: '2' } WButton { id: q; objectName: '3' } }"
+                 "  WButton { id: y; objectName: '4' } }"
+                 " WButton { id: three; objectName: '5' } }"));
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    QCOMPARE(focused(), u"1"_s);
+    QCOMPARE(walk(Qt::Key_Tab, 6), QStringList({u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"1"_s, u"2"_s}));
+    QCOMPARE(walk(Qt::Key_Backtab, 6), QStringList({u"1"_s, u"5"_s, u"4"_s, u"3"_s, u"2"_s, u"1"_s}));
+}
+
+void tst_FocusManager::loaders()
+{
+    QVERIFY(show("LKFocusManager { forceNavigation: true; focusableItems: [full, empty, last]; width: 9; height: 9;"
+                 " Loader { id: full; sourceComponent: WButton { objectName: 'loaded' } }"
+                 " Loader { id: empty; objectName: 'empty'; active: false;"
+                 " sourceComponent: WButton { objectName: 'late' } }"
+                 " WButton { id: last; objectName: 'last' } }"));
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    QCOMPARE(focused(), u"loaded"_s);
+    QCOMPARE(call(root(), "getActiveFocusedItem").value<QObject *>()->objectName(), u"loaded"_s);
+    QCOMPARE(walk(Qt::Key_Tab, 2), QStringList({u"last"_s, u"loaded"_s}));
+    find<QObject>(u"empty"_s)->setProperty("active", true);
+    QCOMPARE(walk(Qt::Key_Tab, 2), QStringList({u"late"_s, u"last"_s}));
+}
+
+void tst_FocusManager::listView()
+{
+    QVERIFY(show("LKFocusManager { forceNavigation: true; focusableItems: list; width: 200; height: 200;"
+                 " ListView { id: list; anchors.fill: parent; model: 3;"
+                 " delegate: WButton { required property int index; objectName: 'row' + index } } }"));
+    QCOMPARE(call(root(), "isManagingListView"), true);
+    QCOMPARE(call(root(), "count"), 3);
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    QCOMPARE(focused(), u"row0"_s);
+    QCOMPARE(walk(Qt::Key_Tab, 3), QStringList({u"row1"_s, u"row2"_s, u"row0"_s}));
+    QCOMPARE(walk(Qt::Key_Backtab, 2), QStringList({u"row2"_s, u"row1"_s}));
+}
+
+// The rows that are out of sight are reached as well: the list scrolls.
+void tst_FocusManager::longListView()
+{
+    QVERIFY(show("LKFocusManager { forceNavigation: true; focusableItems: list; width: 200; height: 100;"
+                 " ListView { id: list; objectName: 'list'; anchors.fill: parent; model: 50; cacheBuffer: 0;"
+                 " delegate: WButton { required property int index; objectName: 'row' + index } } }"));
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    QStringList expected;
+    for (int i = 1; i < 50; ++i)
+        expected << u"row%1"_s.arg(i);
+    QCOMPARE(walk(Qt::Key_Tab, 49), expected);
+    auto *list = find(u"list"_s);
+    QTRY_COMPARE(list->property("contentY").toReal() + list->height(), list->property("contentHeight").toReal());
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"row0"_s);
+}
+
+void tst_FocusManager::losingFocus()
+{
+    QVERIFY(show(threeButtons("forceNavigation: true;")));
+    auto *manager = find(u"manager"_s);
+    manager->setProperty("focusReason", int(Backtab));
+    manager->forceActiveFocus();
+    find(u"after"_s)->forceActiveFocus();
+    QCOMPARE(manager->property("isNavigating").toBool(), false);
+    QCOMPARE(manager->property("focusReason").toInt(), int(Tab));
+}
+
+// What takes the focus for a while gives it back to the same item, which is still the current one.
+void tst_FocusManager::restore()
+{
+    QVERIFY(show(threeButtons("forceNavigation: true;")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus();
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"b"_s);
+    call(manager, "setFocusReasonToRestore");
+    find(u"after"_s)->forceActiveFocus();
+    QCOMPARE(manager->property("isNavigating").toBool(), true);
+    QCOMPARE(manager->property("focusReason").toInt(), int(Restore));
+    manager->forceActiveFocus();
+    QCOMPARE(focused(), u"b"_s);
+    QCOMPARE(manager->property("focusReason").toInt(), int(Tab));
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"c"_s);
+}
+
+void tst_FocusManager::directFocus()
+{
+    QVERIFY(show("LKFocusManager { objectName: 'outer'; focusableItems: [first, inner]; width: 9; height: 9;"
+                 " WButton { id: first } Item { id: inner; LKFocusManager { objectName: 'inner'; focusableItems: [a];"
+                 " WButton { id: a; objectName: 'a' } } } }"));
+    auto *inner = find(u"inner"_s);
+    QMetaObject::invokeMethod(inner, "setDirectFocus", int(Click));
+    QCOMPARE(inner->property("focusReason").toInt(), int(Click));
+    QCOMPARE(root()->property("focusReason").toInt(), int(Click));
+    QCOMPARE(root()->property("isNavigating").toBool(), true);
+    QCOMPARE(root()->property("currentFocusedIndex").toInt(), 1); // the managed item that holds the manager
+
+    call(inner, "setFocusReasonToRestore");
+    QCOMPARE(inner->property("focusReason").toInt(), int(Restore));
+    QCOMPARE(root()->property("focusReason").toInt(), int(Restore));
+}
+
+void tst_FocusManager::focusByClick()
+{
+    QVERIFY(show("LKFocusManager { focusableItems: [first, inner]; width: 9; height: 9;"
+                 " WButton { id: first } LKFocusManager { id: inner; objectName: 'inner'; focusableItems: [a];"
+                 " WButton { id: a; objectName: 'a' } } }"));
+    auto *inner = find(u"inner"_s);
+    call(inner, "focusByClick");
+    QCOMPARE(focused(), u"inner"_s);
+    QCOMPARE(call(root(), "getCurrentFocusedIndex"), 1);
+    QCOMPARE(root()->property("isNavigating").toBool(), true);
+    QCOMPARE(inner->property("isNavigating").toBool(), false);
+    press(Qt::Key_Return);
+    QCOMPARE(focused(), u"a"_s);
+}
+
+// A click on a managed item is as good as the keys.
+void tst_FocusManager::mouseClick()
+{
+    QVERIFY(show("LKFocusManager { objectName: 'manager'; focusableItems: [a, b]; width: 300; height: 100;"
+                 " Row { WButton { id: a; objectName: 'a'; text: 'A' } WButton { id: b; objectName: 'b'; text: 'B' } } }"));
+    click(find(u"b"_s));
+    QCOMPARE(focused(), u"b"_s);
+    QCOMPARE(root()->property("isNavigating").toBool(), true);
+    QCOMPARE(call(root(), "getCurrentFocusedIndex"), 1);
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"a"_s);
+}
+
+void tst_FocusManager::beforeHandling()
+{
+    QVERIFY(show("LKFocusManager { focusableItems: [first, inner]; width: 9; height: 9;"
+                 " WButton { id: first } LKFocusManager { id: inner; objectName: 'inner'; forceNavigation: true;"
+                 " property int calls: 0; beforeHandlingChangeOfFocus: () => { ++calls; return true; }"
+                 " focusableItems: [a]; WButton { id: a; objectName: 'a' } } }"));
+    auto *inner = find(u"inner"_s);
+    inner->forceActiveFocus();
+    QCOMPARE(inner->property("calls").toInt(), 1);
+    QCOMPARE(inner->property("isNavigating").toBool(), false); // its own handling is skipped
+    QCOMPARE(root()->property("currentFocusedIndex").toInt(), 1); // the chain of managers is not
+}
+
+void tst_FocusManager::vanishingItem()
+{
+    QVERIFY(show(threeButtons("forceNavigation: true;")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus();
+    press(Qt::Key_Tab);
+    QCOMPARE(focused(), u"b"_s);
+    find(u"b"_s)->setEnabled(false);
+    QVERIFY(!call(manager, "getActiveFocusedItem").isValid());
+    call(manager, "focusNext");
+    QCOMPARE(focused(), u"c"_s);
+    delete find(u"a"_s);
+    call(manager, "focusNext");
+    QCOMPARE(focused(), u"c"_s); // the only one left
+}
+
+void tst_FocusManager::indexIsClamped()
+{
+    QVERIFY(show(threeButtons("")));
+    auto *manager = find(u"manager"_s);
+    manager->forceActiveFocus();
+    manager->setProperty("currentFocusedIndex", -7);
+    call(manager, "focusNext");
+    QCOMPARE(focused(), u"a"_s);
+    manager->setProperty("currentFocusedIndex", 99);
+    call(manager, "focusPrevious");
+    QCOMPARE(focused(), u"c"_s);
+}
+
+LUMAKIT_TEST_MAIN(tst_FocusManager)
+#include "tst_focusmanager.moc"
