@@ -111,7 +111,9 @@ void compareCreation(QQuickView &view)
 void listComponents(QQmlEngine *engine)
 {
     QTextStream out(stdout);
-    out << Qt::endl << u"%1 %2 %3 %4"_s.arg(u"Component"_s, -36).arg(u"us"_s, 8).arg(u"items"_s, 6).arg(u"objects"_s, 8) << Qt::endl;
+    out << Qt::endl
+        << u"%1 %2 %3 %4"_s.arg(u"Component"_s, -36).arg(u"us"_s, 8).arg(u"items"_s, 6).arg(u"objects"_s, 8)
+        << Qt::endl;
     for (const QString &file : QDir(u":/Qml"_s).entryList({u"*.qml"_s}, QDir::Files, QDir::Name)) {
         QQmlComponent component(engine, QUrl("qrc:/Qml/"_L1 + file));
         const std::unique_ptr<QObject> first(component.create());
@@ -126,8 +128,13 @@ void listComponents(QQmlEngine *engine)
         }
         std::sort(times.begin(), times.end());
         const auto objects = first->findChildren<QObject *>();
-        const auto items = std::count_if(objects.begin(), objects.end(), [](QObject *object) { return qobject_cast<QQuickItem *>(object); });
-        out << u"%1 %2 %3 %4"_s.arg(file.chopped(4), -36).arg(times[times.size() / 2], 8, 'f', 1).arg(items + 1, 6).arg(objects.size() - items, 8) << Qt::endl;
+        const auto items = std::count_if(objects.begin(), objects.end(),
+                                         [](QObject *object) { return qobject_cast<QQuickItem *>(object); });
+        out << u"%1 %2 %3 %4"_s.arg(file.chopped(4), -36)
+                   .arg(times[times.size() / 2], 8, 'f', 1)
+                   .arg(items + 1, 6)
+                   .arg(objects.size() - items, 8)
+            << Qt::endl;
     }
 }
 

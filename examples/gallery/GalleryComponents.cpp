@@ -47,8 +47,11 @@ QStringList GalleryComponents::components(const QString &family, const QString &
     for (const QString &file : files()) {
         const QString name = file.section(u'/', 1);
         if (familyOf(file) == family && name.contains(containing, Qt::CaseInsensitive)
-            && QFile::exists(u":/Qml/%1Sample.qml"_s.arg(name)))
+            && QFile::exists(u":/Qml/%1Sample.qml"_s.arg(name))) {
             names << name;
+            if (QFile::exists(u":/Qml/%1StatesSample.qml"_s.arg(name)))
+                names << name + "States"_L1;
+        }
     }
     names.sort();
     return names;

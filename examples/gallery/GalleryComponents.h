@@ -18,8 +18,8 @@ public:
     using QObject::QObject;
 
     static QStringList families();
-    /// The components of a family that have a sample and whose name contains the text, sorted. A text without a match
-    /// in the family gives none.
+    /// The components of a family that have a sample and whose name contains the text, sorted; one with a sample of all
+    /// its states has that behind it, as <Name>States.
     Q_INVOKABLE QStringList components(const QString &family, const QString &containing) const;
 
     /// What the component itself declares, with what its bases of the library declare: maps of name, type, value (as

@@ -39,7 +39,7 @@ T.Control {
     // Whether the banner itself can be clicked, by mouse and keyboard.
     property bool interactive: false
     property bool closeButtonVisible: true
-    property string closeButtonTooltip: ""
+    property string closeButtonTooltip: qsTr("Close")
     property bool closeButtonEnabled: true
     property bool buttonEnabled: true
     // Below the text, which is bold then.
@@ -73,6 +73,12 @@ T.Control {
             onButtonClicked.call(control);
     }
 
+    // What a screen reader calls, where the role is one that is pressed.
+    function accessiblePressAction(): void {
+        if (interactive && enabled)
+            clicked();
+    }
+
     function clickByKey(event: KeyEvent): void {
         event.accepted = interactive;
         if (interactive && !event.isAutoRepeat)
@@ -102,10 +108,6 @@ T.Control {
     Accessible.role: interactive ? Accessible.Button : Accessible.AlertMessage
     Accessible.name: text === "" ? subText : text
     Accessible.description: text === "" ? "" : subText
-    Accessible.onPressAction: {
-        if (interactive)
-            clicked();
-    }
 
     contentItem: GridLayout {
         columnSpacing: control.spacing

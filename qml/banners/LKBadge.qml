@@ -30,6 +30,7 @@ WRectangle {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: labelText
+    Accessible.ignored: Accessible.name === ""
 
     WText {
         id: label

@@ -21,7 +21,7 @@ WRectangle {
     property string actionButtonText: ""
     property bool actionButtonEnabled: true
     property bool actionButtonVisible: true
-    property string closeButtonTooltip: ""
+    property string closeButtonTooltip: qsTr("Close")
     property bool closeButtonEnabled: true
     property bool closeButtonVisible: true
     // An icon of the host; none if empty.

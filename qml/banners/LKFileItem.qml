@@ -44,7 +44,7 @@ ColumnLayout {
     property string fileTransferFailedBannerText: ""
     // The banner's button; none without a text.
     property string retryButtonText: ""
-    property string cancelButtonTooltip: ""
+    property string cancelButtonTooltip: qsTr("Cancel")
     property string backgroundColorSetName: "attachment-file-" + lookName + "-sent-background"
     property string borderColorSetName: "attachment-file-" + lookName + "-sent-border"
     property string textColorSetName: "attachment-file-" + lookName + "-sent-label-primary"

@@ -61,11 +61,13 @@ RowLayout {
         // Between its parts, and between them and its edge; pixels.
         readonly property int gap: 8
         readonly property int margin: 2
-        readonly property int minimumWidth: left.width + right.width + 2 * margin + (middle.visible ? 2 * gap : margin)
+        readonly property bool hasMiddle: root.middleButtonIcon !== "" || root.text !== ""
+        // What is left of the width is the middle's.
+        readonly property int endsWidth: left.width + right.width + 2 * margin + (hasMiddle ? 2 * gap : margin)
 
         Layout.fillWidth: root.enableResize
-        Layout.minimumWidth: minimumWidth
-        implicitWidth: minimumWidth + (middle.visible ? Math.ceil(middle.implicitWidth) : 0)
+        Layout.minimumWidth: endsWidth + (root.middleButtonIcon === "" ? 0 : icon.width)
+        implicitWidth: endsWidth + (hasMiddle ? Math.ceil(middle.implicitWidth) : 0)
         implicitHeight: Math.max(left.height, Math.ceil(middle.implicitHeight)) + 2 * margin
         radius: height / 2
         themeType: root.themeType
@@ -89,8 +91,8 @@ RowLayout {
             id: middle
 
             anchors.centerIn: parent
-            visible: icon.visible || label.visible
-            width: Math.max(0, Math.min(Math.ceil(implicitWidth), pill.width - pill.minimumWidth))
+            visible: pill.hasMiddle
+            width: Math.max(0, Math.min(Math.ceil(implicitWidth), pill.width - pill.endsWidth))
             spacing: 6
 
             WSvgIcon {

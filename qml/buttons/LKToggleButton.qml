@@ -57,7 +57,7 @@ RowLayout {
             id: row
 
             anchors.centerIn: parent
-            spacing: 2
+            spacing: 4
 
             Half {
                 id: left

@@ -41,6 +41,15 @@ T.Button {
     // By mouse, touch, Space, Enter, Return or a screen reader.
     signal triggered
 
+    // What a screen reader calls, where the role is one that is pressed.
+    function accessiblePressAction(): void {
+        click();
+    }
+
+    function accessibleToggleAction(): void {
+        click();
+    }
+
     implicitWidth: Math.max(implicitHeight, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
     implicitHeight: Math.max(32, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
     horizontalPadding: 12
@@ -67,8 +76,6 @@ T.Button {
     Accessible.name: text === "" ? tooltip : text
     Accessible.checkable: checkable
     Accessible.checked: checked
-    Accessible.onPressAction: click()
-    Accessible.onToggleAction: click()
 
     contentItem: Text {
         text: control.text

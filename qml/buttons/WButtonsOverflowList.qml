@@ -41,7 +41,7 @@ WToolTip {
     property int maximumVisibleRows: 10
     // Whether each row ends with a button to remove it.
     property bool cancelVisible: false
-    property string cancelTooltip: ""
+    property string cancelTooltip: qsTr("Remove")
     // There are no rows before the list is needed.
     property bool wasShown: false
     property string rowColorSetName: "listitem-background"
@@ -66,6 +66,7 @@ WToolTip {
 
     onOpened: forceActiveFocus(Qt.PopupFocusReason)
     onAboutToShow: {
+        contentItem.parent.Accessible.ignored = true; // the list is what is shown
         wasShown = true;
         list.moveTo(0, 1);
     }
@@ -171,6 +172,7 @@ WToolTip {
             font: FontConstants.bodySecondary
 
             Accessible.role: Accessible.MenuItem
+            Accessible.onPressAction: click()
 
             onHoveredChanged: {
                 if (hovered)

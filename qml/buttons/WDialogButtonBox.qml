@@ -53,6 +53,8 @@ T.DialogButtonBox {
     buttonLayout: T.DialogButtonBox.WinLayout
     delegate: DialogButton {}
 
+    Accessible.role: Accessible.Grouping
+
     component DialogButton: WButton {
         isRectangle: false
         horizontalPadding: 16

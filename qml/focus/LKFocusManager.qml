@@ -293,6 +293,8 @@ FocusScope {
         }
     }
 
+    Accessible.role: Accessible.Grouping
+
     onActiveFocusChanged: {
         if (activeFocus)
             getParentFocusManager(root)?.forceIndexChainTo(root, focusReason);

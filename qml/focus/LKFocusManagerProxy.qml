@@ -15,4 +15,6 @@ LKFocusManager {
     wrapAround: false
     width: target?.width ?? 0
     height: target?.height ?? 0
+
+    Accessible.ignored: true
 }

@@ -28,6 +28,8 @@ T.Control {
     implicitHeight: implicitBackgroundHeight + topInset + bottomInset
     hoverEnabled: !controlsTarget
 
+    Accessible.ignored: true
+
     background: Rectangle {
         implicitHeight: 40
         radius: control.radius

@@ -20,7 +20,7 @@ T.SplitView {
     property string separatorColorSetName: "separator-primary"
     // The grips in their middle.
     property string handleColorSetName: "scrollbar-thumb-background"
-    // What a screen reader calls the handles.
+    // What a screen reader calls the handles, all but the first with their number.
     property string handleAccessibleName: ""
     // How far an arrow key moves a handle, pixels; Page Up and Down move it four times as far.
     property int step: 16
@@ -65,6 +65,17 @@ T.SplitView {
         readonly property bool pressed: T.SplitHandle.pressed
         readonly property color lineColor: ThemeUtils.getColor(control, control.separatorColorSet)
 
+        // From 1.
+        function number(): int {
+            let panesBefore = 0;
+            for (let i = 0; i < control.count; ++i) {
+                const pane = control.itemAt(i);
+                if (pane.visible && (isHorizontal ? pane.x < x : pane.y < y))
+                    ++panesBefore;
+            }
+            return panesBefore;
+        }
+
         function handleKey(event: KeyEvent) {
             const back = isHorizontal ? Qt.Key_Left : Qt.Key_Up;
             const forth = isHorizontal ? Qt.Key_Right : Qt.Key_Down;
@@ -101,7 +112,8 @@ T.SplitView {
         Keys.onPressed: event => handleKey(event)
 
         Accessible.role: Accessible.Splitter
-        Accessible.name: control.handleAccessibleName
+        Accessible.name: control.handleAccessibleName === "" || number() < 2
+                         ? control.handleAccessibleName : control.handleAccessibleName + " " + number()
         Accessible.focusable: true
         Accessible.onIncreaseAction: control.moveHandle(handle, control.step)
         Accessible.onDecreaseAction: control.moveHandle(handle, -control.step)

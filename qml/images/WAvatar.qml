@@ -67,6 +67,11 @@ WImage {
             requestContactCard();
     }
 
+    // What a screen reader calls, where the role is one that is pressed.
+    function accessiblePressAction(): void {
+        click();
+    }
+
     function clickByKey(event: KeyEvent): void {
         if (!event.isAutoRepeat)
             click();
@@ -132,7 +137,6 @@ WImage {
     Accessible.name: displayName
     Accessible.description: presenceText
     Accessible.focusable: allowInteractions
-    Accessible.onPressAction: click()
 
     RoundedPicture {
         anchors.fill: parent

@@ -55,6 +55,7 @@ WFrame {
         anchors.right: parent.right
         anchors.rightMargin: root.padding
         anchors.verticalCenter: parent.verticalCenter
+        visible: !empty
         text: root.text
         textColorSetName: root.textColorSetName
         controlsTarget: root

@@ -44,6 +44,8 @@ T.ScrollBar {
     visible: policy !== T.ScrollBar.AlwaysOff
     hoverEnabled: true
 
+    Accessible.focusable: false
+
     onActiveChanged: idleTimer.restart()
     onPositionChanged: idleTimer.restart()
 

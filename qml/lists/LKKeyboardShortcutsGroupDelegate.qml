@@ -54,17 +54,23 @@ Item {
         WButton {
             id: headerButton
 
-            readonly property color iconColor: ThemeUtils.getColor(headerButton, textColorSet)
+            // That it is checked tells a screen reader that the group is expanded; it has no looks.
+            readonly property var look: ({ enabled: enabled, pressed: down, hovered: hovered })
 
             width: parent.width
             themeType: root.themeType
             text: root.title
+            checkable: true
+            checked: !root.collapsed
             horizontalAlignment: Text.AlignLeft
             spacing: 8
             backgroundColorSetName: "listitem-background"
             borderColorSetName: ""
             textColorSetName: "listitem-textsecondary"
+            colour: ThemeUtils.getColor(look, backgroundColorSet)
+            textColor: ThemeUtils.getColor(look, textColorSet)
 
+            onToggled: checked = Qt.binding(() => !root.collapsed)
             onTriggered: root.toggle()
 
             Keys.onPressed: event => {
@@ -74,9 +80,6 @@ Item {
                 if (event.accepted)
                     root.toggle();
             }
-
-            Accessible.checkable: true
-            Accessible.checked: !root.collapsed
 
             contentItem: Item {
                 implicitWidth: icon.width + headerButton.spacing + Math.ceil(label.implicitWidth)
@@ -91,7 +94,7 @@ Item {
                     height: 16
                     svgName: !root.collapsed ? "chevron-down-bold"
                            : headerButton.mirrored ? "chevron-left-bold" : "chevron-right-bold"
-                    svgColor: headerButton.iconColor
+                    svgColor: headerButton.textColor
                 }
                 Text {
                     id: label
@@ -121,7 +124,7 @@ Item {
                 title: modelData.title ?? ""
                 moreButtonIsVisible: modelData.moreButtonIsVisible ?? false
                 moreButtonIsEnabled: modelData.moreButtonIsEnabled ?? true
-                moreButtonTooltipText: modelData.moreButtonTooltipText ?? ""
+                moreButtonTooltipText: modelData.moreButtonTooltipText ?? qsTr("More")
                 addButtonIsVisible: modelData.addButtonIsVisible ?? false
                 addButtonIsEnabled: modelData.addButtonIsEnabled ?? true
                 addButtonText: modelData.addButtonText ?? ""

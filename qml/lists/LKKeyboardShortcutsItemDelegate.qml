@@ -22,7 +22,7 @@ WRectangle {
     property string title: ""
     property bool moreButtonIsVisible: false
     property bool moreButtonIsEnabled: true
-    property string moreButtonTooltipText: ""
+    property string moreButtonTooltipText: qsTr("More")
     // The button that stands in for the keys where there are none.
     property bool addButtonIsVisible: false
     property bool addButtonIsEnabled: true
@@ -67,7 +67,10 @@ WRectangle {
     Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: checked
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
 
     HoverHandler {
         id: hoverHandler

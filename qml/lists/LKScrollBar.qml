@@ -83,6 +83,8 @@ T.ScrollBar {
     visible: policy === T.ScrollBar.AlwaysOn || policy === T.ScrollBar.AsNeeded && size < 1
     hoverEnabled: true
 
+    Accessible.focusable: false
+
     contentItem: Rectangle {
         radius: Math.min(width, height) / 2
         color: ThemeUtils.getColor(control, control.handleColorSet)

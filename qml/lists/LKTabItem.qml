@@ -122,6 +122,7 @@ T.TabButton {
                 visible: active
                 sourceComponent: LKBadge {
                     text: control.badgeText
+                    Accessible.ignored: true
                 }
             }
             Icon {

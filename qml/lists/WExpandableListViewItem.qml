@@ -108,7 +108,10 @@ WRectangle {
     Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: checked
-    Accessible.onPressAction: trigger()
+    Accessible.onPressAction: {
+        if (enabled)
+            trigger();
+    }
 
     HoverHandler {
         id: hoverHandler

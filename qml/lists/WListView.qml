@@ -48,6 +48,9 @@ RowLayout {
 
     spacing: 0
 
+    // The list has the name.
+    Accessible.ignored: true
+
     ListView {
         id: list
 
@@ -74,6 +77,7 @@ RowLayout {
         }
 
         Accessible.role: Accessible.List
+        Accessible.name: root.Accessible.name
 
         WScrollHelper {
             id: helper

@@ -41,7 +41,7 @@ Item {
     // Texts, or objects with `text` and, if wanted, `iconName`, `enabled` and `tooltip`.
     property var model: []
     property int currentIndex: 0
-    property string moreTooltip: ""
+    property string moreTooltip: qsTr("More")
     property string moreIconName: "more-horizontal-bold"
     property string tabBackgroundColorSetName: "tab-inactive-background"
     property string tabTextColorSetName: "tab-inactive-text"
@@ -221,6 +221,7 @@ Item {
                 onTriggered: root.choose(place)
 
                 Accessible.role: Accessible.PageTab
+                Accessible.onPressAction: click()
                 Accessible.selectable: true
                 Accessible.selected: checked
             }

@@ -65,7 +65,10 @@ T.Menu {
     overlap: 4
     delegate: WMenuItem {}
 
-    onAboutToShow: takeDirection()
+    onAboutToShow: {
+        takeDirection();
+        contentItem.parent.Accessible.name = Qt.binding(() => title);
+    }
 
     contentItem: ListView {
         implicitHeight: contentHeight

@@ -31,5 +31,5 @@ WComboBox {
         event.accepted = true;
     }
 
-    Accessible.name: accessibleText
+    Accessible.name: accessibleText !== "" ? accessibleText : tooltip !== "" ? tooltip : displayText
 }

@@ -37,7 +37,7 @@ T.Slider {
     property real pageSize: Math.max(keyStep, Math.abs(to - from) / 10)
     // The bar up to the handle, and beyond it.
     property string fullColorSetName: "toggle-toggled-background"
-    property string emptyColorSetName: "spinner-progress-track"
+    property string emptyColorSetName: "separator-primary"
     property string handleColorSetName: "toggle-toggled-background"
     property string borderColorSetName: "toggle-toggled-border"
     property string focusColorSetName: "global-focus-outline"
@@ -61,6 +61,17 @@ T.Slider {
     // Towards the end of the range, backwards if negative.
     function moveBy(distance: real): void {
         moveTo(value + (from > to ? -distance : distance));
+    }
+
+    // What a screen reader calls.
+    function accessibleIncreaseAction(): void {
+        if (enabled)
+            moveBy(keyStep);
+    }
+
+    function accessibleDecreaseAction(): void {
+        if (enabled)
+            moveBy(-keyStep);
     }
 
     implicitWidth: (horizontal ? 160 : Math.max(handleWidth, barThickness)) + leftPadding + rightPadding

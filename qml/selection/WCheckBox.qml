@@ -55,6 +55,7 @@ T.CheckBox {
     onTooltipChanged: ToolTips.set(control, tooltip)
 
     Accessible.name: text === "" ? tooltip : text
+    Accessible.checkStateMixed: checkState === Qt.PartiallyChecked
     Accessible.onPressAction: click()
     Accessible.onToggleAction: click()
 

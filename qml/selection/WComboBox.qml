@@ -37,7 +37,7 @@ T.ComboBox {
     property real popupMaxHeight: 320
     // Shown while nothing is chosen.
     property string placeholderText: ""
-    // Shown when the cursor or the keyboard's focus rests on the control.
+    // Shown when the cursor or the keyboard's focus rests on the control; its accessible name.
     property string tooltip: ""
     property int borderWidth: 1
     property string placeholderColorSetName: "combobox-placeholder-text"
@@ -115,7 +115,13 @@ T.ComboBox {
             popup.open();
     }
 
-    Accessible.onPressAction: popup.visible ? popup.close() : popup.open()
+    Accessible.name: tooltip === "" ? displayText : tooltip
+    // No platform knows it as the value of a combo box.
+    Accessible.description: Accessible.name === displayText ? "" : displayText
+    Accessible.onPressAction: {
+        if (enabled)
+            popup.visible = !popup.visible;
+    }
 
     indicator: WSvgIcon {
         x: control.mirrored ? 12 : control.width - width - 12
@@ -152,7 +158,9 @@ T.ComboBox {
 
         Accessible.role: Accessible.ListItem
         Accessible.name: text
+        Accessible.selectable: true
         Accessible.selected: isChosen
+        Accessible.onPressAction: click()
 
         contentItem: Text {
             text: row.text
@@ -188,10 +196,12 @@ T.ComboBox {
         width: control.width
         implicitHeight: Math.min(control.popupMaxHeight, room, contentHeight + topPadding + bottomPadding)
         contentHeight: list.contentHeight
+
         padding: control.popupPadding
         margins: 4
 
         onAboutToShow: {
+            contentItem.parent.Accessible.ignored = true; // the list is what is shown
             const above = control.mapToItem(null, 0, 0).y;
             const below = control.Window.height - above - control.height;
             room = Math.max(96, Math.max(above, below) - 8);
@@ -262,6 +272,8 @@ T.ComboBox {
             color: ThemeUtils.getColor(control, control.textColorSet)
             horizontalAlignment: Text.AlignLeft
             verticalAlignment: Text.AlignVCenter
+
+            Accessible.name: control.Accessible.name
         }
     }
     FocusRing {

@@ -60,6 +60,17 @@ T.Slider {
             moved();
     }
 
+    // What a screen reader calls.
+    function accessibleIncreaseAction(): void {
+        if (enabled)
+            moveTo(value + (from > to ? -stepSize : stepSize));
+    }
+
+    function accessibleDecreaseAction(): void {
+        if (enabled)
+            moveTo(value - (from > to ? -stepSize : stepSize));
+    }
+
     implicitWidth: (horizontal ? 160 : Math.max(handleWidth, barThickness)) + leftPadding + rightPadding
     implicitHeight: (horizontal ? Math.max(handleWidth, barThickness) : 160) + topPadding + bottomPadding
     padding: 4

@@ -38,8 +38,8 @@ RowLayout {
     property string accessibleName: ""
     property string focusColorSetName: "global-focus-outline"
     property var themeType: App.themeMode
-    readonly property string status: isReadOnly ? "read-only" : isUnavailable ? "unavailable" : isAvailable ? "available"
-                                   : isChecking ? "checking" : ""
+    readonly property string status: isReadOnly ? "read-only" : isUnavailable ? "unavailable"
+                                   : isAvailable ? "available" : isChecking ? "checking" : ""
     readonly property string colorSetGroup: isReadOnly ? "shortcutinput-inactive-"
                                           : status !== "" ? "shortcutinput-active-" + status + "-"
                                           : isInEditMode || isSelected ? "shortcutinput-active-populated-"
@@ -52,7 +52,8 @@ RowLayout {
     property var borderColorSet: themeType === undefined ? null : App.getColorSet(borderColorSetName)
     property var textColorSet: themeType === undefined ? null : App.getColorSet(textColorSetName)
     property var textBackgroundColorSet: themeType === undefined ? null : App.getColorSet(textBackgroundColorSetName)
-    readonly property string shownText: labelText !== "" ? labelText : isInEditMode ? editPlaceholderText : placeholderText
+    readonly property string shownText: labelText !== "" ? labelText
+                                      : isInEditMode ? editPlaceholderText : placeholderText
     // As it was when the editing began.
     property string oldLabelText: ""
 
@@ -72,7 +73,7 @@ RowLayout {
     }
 
     function edit(): void {
-        if (!isReadOnly)
+        if (!isReadOnly && enabled)
             isInEditMode = true;
     }
 
@@ -144,7 +145,7 @@ RowLayout {
 
     Accessible.role: Accessible.HotkeyField
     Accessible.name: accessibleName !== "" ? accessibleName : shownText
-    Accessible.description: [accessibleName !== "" ? shownText : "", statusText()].filter(text => text !== "").join(", ")
+    Accessible.description: [accessibleName === "" ? "" : shownText, statusText()].filter(text => text).join(", ")
     Accessible.focusable: true
     Accessible.readOnly: isReadOnly
     Accessible.onPressAction: edit()

@@ -25,7 +25,7 @@ T.Control {
     property var themeType: App.themeMode
     // The area itself, for all that a text area has.
     readonly property alias textArea: area
-    // More is cut off, and a counter shows how many there are; 0 is without limit. UTF-16 units, as in a string's length.
+    // More is cut off, and a counter shows how many there are; 0 is without limit. Counted as in a string's length.
     property int maxCharacters: 0
     property alias readOnly: area.readOnly
     property string counterColorSetName: area.length < maxCharacters ? "label-secondary-text" : "label-error-text"
@@ -37,7 +37,7 @@ T.Control {
     // As much of the text as there is room for: half a surrogate pair has none.
     function fitting(wanted: string): string {
         const room = Math.max(0, maxCharacters - area.length + area.selectionEnd - area.selectionStart);
-        if (!isLimited || wanted.length <= room)
+        if (maxCharacters <= 0 || wanted.length <= room)
             return wanted;
         return wanted.slice(0, room).replace(/[\uD800-\uDBFF]$/, "");
     }
@@ -45,7 +45,7 @@ T.Control {
     // Cuts off before the cursor, where what is too much was written, or else at the end.
     function cutOff(): void {
         const excess = area.length - maxCharacters;
-        if (!isLimited || excess <= 0)
+        if (maxCharacters <= 0 || excess <= 0)
             return;
         const end = area.cursorPosition >= excess ? area.cursorPosition : area.length;
         const isHalf = /[\uDC00-\uDFFF]/.test(area.getText(end - excess, end - excess + 1));
@@ -63,21 +63,25 @@ T.Control {
             area.forceActiveFocus(focusReason);
     }
 
+    // The area is what is written in.
+    Accessible.ignored: true
+
     LKTextAreaBase {
         id: area
 
         readonly property real fullHeight: contentHeight + 2 * padding
         readonly property bool isScrolling: fullHeight > height && height > 0
 
-        // Keys that would write what is cut off again would fill the history of undo.
         function paste(): void {
             const wanted = control.fitting(Utils.pasteFromClipboard(Utils.RichText, Utils.Clipboard));
             remove(selectionStart, selectionEnd);
             insert(cursorPosition, wanted);
         }
 
+        // AltGr is Ctrl and Alt.
         function writes(event: var): bool {
-            return event.text !== "" && !/[\x00-\x08\x0b\x0c\x0e-\x1f\x7f]/.test(event.text);
+            const isCommand = !(event.modifiers & Qt.ControlModifier) !== !(event.modifiers & Qt.AltModifier);
+            return !isCommand && event.text !== "" && !/[\x00-\x08\x0b\x0c\x0e-\x1f\x7f]/.test(event.text);
         }
 
         contextMenu: control.menuModel === null ? editMenu : modelMenu
@@ -88,6 +92,7 @@ T.Control {
 
         onTextChanged: control.cutOff()
 
+        // What is not written needs not be cut off, and cannot come back by undo.
         Keys.onPressed: event => {
             if (readOnly || !control.isLimited)
                 return;
@@ -133,9 +138,7 @@ T.Control {
     Component {
         id: editMenu
 
-        LKTextFieldBase.EditMenu {
-            editor: area
-        }
+        LKTextFieldBase.EditMenu {}
     }
     Component {
         id: modelMenu

@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 // A field for many lines of text, in a frame, with a context menu: what LKTextArea is made of.
 //
 //     LKTextAreaBase {
@@ -14,29 +12,38 @@ WTextArea {
 
     // The control whose state picks the colours; this area itself if null.
     property Item controlsTarget: null
-    // What the right button, the menu key and Shift+F10 open: a menu, made anew each time. Null opens nothing.
+    // The menu that the right button, the menu key and Shift+F10 open; null opens none.
     property Component contextMenu: Component {
-        LKTextFieldBase.EditMenu {
-            editor: control
-        }
+        LKTextFieldBase.EditMenu {}
     }
 
+    // The menu, once it has been opened.
+    property T.Menu menu: null
+    // Where the selection was at a press of the right button, which may clear it: the menu is for what was selected.
+    property point pressedSelection
+
     function openContextMenu(x: real, y: real): void {
-        const menu = contextMenu?.createObject(control) as T.Menu;
         if (!menu)
-            return;
-        menu.closed.connect(() => menu.destroy());
-        if (menu.count > 0)
+            menu = contextMenu?.createObject(control) as T.Menu;
+        if (menu?.count > 0)
             menu.popup(control, x, y);
-        else
-            menu.destroy();
     }
 
     stateItem: controlsTarget ?? control
 
+    onContextMenuChanged: {
+        menu?.destroy();
+        menu = null;
+    }
+    onPressed: event => {
+        if (event.button === Qt.RightButton)
+            pressedSelection = Qt.point(selectionStart, selectionEnd);
+    }
     onReleased: event => {
         if (event.button !== Qt.RightButton)
             return;
+        if (pressedSelection.x < pressedSelection.y)
+            select(pressedSelection.x, pressedSelection.y);
         forceActiveFocus(Qt.MouseFocusReason);
         openContextMenu(event.x, event.y);
     }

@@ -44,9 +44,10 @@ T.Control {
     // Pixels.
     property int iconSize: 16
     property int buttonSize: 24
-    readonly property bool hasButton: enabled && !readOnly && field.length > 0 && (isPasswordInput || isClearButtonVisible)
-    readonly property int iconRoom: isLeftIconVisible ? 12 + iconSize + 8 : 12
-    readonly property int buttonRoom: hasButton ? 4 + buttonSize + 4 : 12
+    readonly property bool hasButton: (isPasswordInput || isClearButtonVisible)
+                                      && enabled && !readOnly && field.length > 0
+    readonly property int iconRoom: isLeftIconVisible ? 8 + iconSize + 8 : 8
+    readonly property int buttonRoom: hasButton ? 4 + buttonSize + 4 : 8
 
     // By Enter or Return.
     signal accepted
@@ -72,8 +73,18 @@ T.Control {
             field.forceActiveFocus(focusReason);
     }
 
+    // The field is what is written in.
+    Accessible.ignored: true
+
     LKTextFieldBase {
         id: field
+
+        // With the name of a password: a screen reader is told none of that.
+        function describing(): string {
+            const texts = [echoMode === TextInput.Normal ? "" : control.accessibleName, control.accessibleDescription];
+            return texts.filter(text => text !== "").join(", ");
+        }
+
         anchors.fill: parent
         leftPadding: control.mirrored ? control.buttonRoom : control.iconRoom
         rightPadding: control.mirrored ? control.iconRoom : control.buttonRoom
@@ -86,12 +97,17 @@ T.Control {
         onTextEdited: control.textEdited()
 
         Accessible.name: control.accessibleName
-        Accessible.description: control.accessibleDescription
-        Accessible.passwordEdit: control.isPasswordInput
+        Accessible.description: describing()
+        // A text field sets its placeholder when a screen reader starts.
+        Accessible.onDescriptionChanged: {
+            if (describing() !== "" && Accessible.description !== describing())
+                Accessible.description = Qt.binding(describing);
+        }
+        Accessible.passwordEdit: echoMode !== TextInput.Normal
 
         Loader {
             anchors.left: parent.left
-            anchors.leftMargin: 12
+            anchors.leftMargin: 8
             y: Math.round((parent.height - height) / 2)
             active: control.isLeftIconVisible
             sourceComponent: WSvgIcon {
@@ -112,7 +128,8 @@ T.Control {
                 iconWidth: control.iconSize
                 iconHeight: control.iconSize
                 iconName: !control.isPasswordInput ? "close-bold" : control.isPasswordVisible ? "eye-off" : "eye"
-                tooltip: !control.isPasswordInput ? qsTr("Clear") : control.isPasswordVisible ? qsTr("Hide") : qsTr("Show")
+                tooltip: !control.isPasswordInput ? qsTr("Clear")
+                       : control.isPasswordVisible ? qsTr("Hide password") : qsTr("Show password")
                 borderColorSetName: ""
                 focusPolicy: Qt.TabFocus
 

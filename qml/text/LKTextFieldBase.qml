@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 // A field for one line of text, in a frame, with a context menu: what LKTextField is made of.
 //
 //     LKTextFieldBase {
@@ -13,20 +11,22 @@ import LumakitQml 1.0
 WTextField {
     id: control
 
-    // What the right button, the menu key and Shift+F10 open: a menu, made anew each time. Null opens nothing.
+    // The menu that the right button, the menu key and Shift+F10 open; null opens none.
     property Component contextMenu: Component {
-        EditMenu {
-            editor: control
-        }
+        EditMenu {}
     }
+    // The menu, once it has been opened.
+    property T.Menu menu: null
 
     // Cut, copy, paste and select all, for the library's text fields and areas.
     component EditMenu: LKContextMenu {
         id: menu
 
-        property var editor: null
-        readonly property bool canEdit: !editor.readOnly
-        readonly property bool canCopy: editor.selectedText !== "" && (editor.echoMode ?? TextInput.Normal) === TextInput.Normal
+        // The field or area that it is opened on.
+        readonly property var editor: parent
+        readonly property bool canEdit: editor?.readOnly === false
+        readonly property bool isSecret: (editor?.echoMode ?? TextInput.Normal) !== TextInput.Normal
+        readonly property bool canCopy: (editor?.selectedText ?? "") !== "" && !isSecret
 
         LKContextMenuItem {
             text: qsTr("Cut")
@@ -43,28 +43,28 @@ WTextField {
         LKContextMenuItem {
             text: qsTr("Paste")
             shortcutText: Utils.getKeySequence(Qt.ControlModifier, Qt.Key_V)
-            enabled: menu.editor.canPaste && menu.canEdit
+            enabled: menu.canEdit && menu.editor.canPaste
             onTriggered: menu.editor.paste()
         }
         LKContextMenuItem {
             text: qsTr("Select all")
             shortcutText: Utils.getKeySequence(Qt.ControlModifier, Qt.Key_A)
-            enabled: menu.editor.length > 0
+            enabled: (menu.editor?.length ?? 0) > 0
             onTriggered: menu.editor.selectAll()
         }
     }
 
     function openContextMenu(x: real, y: real): void {
-        const menu = contextMenu?.createObject(control) as T.Menu;
         if (!menu)
-            return;
-        menu.closed.connect(() => menu.destroy());
-        if (menu.count > 0)
+            menu = contextMenu?.createObject(control) as T.Menu;
+        if (menu?.count > 0)
             menu.popup(control, x, y);
-        else
-            menu.destroy();
     }
 
+    onContextMenuChanged: {
+        menu?.destroy();
+        menu = null;
+    }
     onReleased: event => {
         if (event.button !== Qt.RightButton)
             return;

@@ -101,6 +101,7 @@ T.TextArea {
 
     Accessible.name: placeholderText
     Accessible.readOnly: readOnly
+    Accessible.multiLine: true
 
     background: Rectangle {
         radius: control.radius

@@ -100,7 +100,10 @@ WTextEdit {
 
     Accessible.role: Accessible.Link
     Accessible.name: length === 0 ? tooltip : getText(0, length)
-    Accessible.onPressAction: activateCurrentLink()
+    Accessible.onPressAction: {
+        if (enabled)
+            activateCurrentLink();
+    }
 
     MouseArea {
         id: area

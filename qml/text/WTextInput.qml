@@ -44,6 +44,8 @@ TextInput {
 
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
+    // The name of a password: a screen reader is told none of that.
+    Accessible.description: echoMode === TextInput.Normal ? "" : placeholderText
     Accessible.readOnly: readOnly
     Accessible.passwordEdit: echoMode !== TextInput.Normal
 

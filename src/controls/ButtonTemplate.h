@@ -8,9 +8,8 @@ class FocusRing;
 
 /// The logic of the LK buttons: keys, state and focus ring; QML gives the looks.
 ///
-/// On the release of Space, Enter or Return, which is no repetition, a checkable button toggles and emits toggled(), any
-/// other emits clicked(). The key must have gone down on the button too: one that is held while the focus moves presses
-/// nothing.
+/// On the release of Space, Enter or Return, which is no repetition, a checkable button toggles and emits toggled(),
+/// any other emits clicked().
 class ButtonTemplate : public QQuickButton
 {
     Q_OBJECT
@@ -22,6 +21,8 @@ public:
 
     LKEventData *eventData();
 
+    /// Shows the button to assistive technology, whether or not there is any.
+    void expose();
     /// What assistive technology calls; both do what a key does.
     Q_INVOKABLE void accessiblePressAction();
     Q_INVOKABLE void accessibleToggleAction();
@@ -34,11 +35,14 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void hoverChange() override;
     void buttonChange(ButtonChange change) override;
+    QAccessible::Role accessibleRole() const override;
 
 private:
     void activate();
+    void nameByText();
 
     LKEventData m_eventData;
     FocusRing *m_ring = nullptr;
     int m_heldKey = 0;
+    bool m_exposed = false;
 };

@@ -43,27 +43,23 @@ QUrl componentUrl(const char *name)
     return QUrl(u"qrc:/Qml/%1.qml"_s.arg(QLatin1StringView(name)));
 }
 
-template<typename T>
-void registerType(const char *name)
+template<typename T> void registerType(const char *name)
 {
     qmlRegisterType<T>(Uri, 1, 0, name);
 }
 
-template<typename T>
-void registerSingleton(const char *name, const char *uri = Uri)
+template<typename T> void registerSingleton(const char *name, const char *uri = Uri)
 {
     qmlRegisterSingletonType<T>(uri, 1, 0, name, [](QQmlEngine *, QJSEngine *) -> QObject * { return new T; });
 }
 
-template<typename T>
-void registerUncreatable(const char *name)
+template<typename T> void registerUncreatable(const char *name)
 {
     qmlRegisterUncreatableType<T>(Uri, 1, 0, name, u"%1 cannot be created from QML"_s.arg(QLatin1StringView(name)));
 }
 
 // The enum of a namespace of the same name.
-template<typename Enum>
-void registerEnums(const char *name)
+template<typename Enum> void registerEnums(const char *name)
 {
     const QMetaType type = QMetaType::fromType<Enum>();
     qmlRegisterUncreatableMetaObject(*type.metaObject(), Uri, 1, 0, name,

@@ -107,7 +107,7 @@ QString QmlUtils::pasteFromClipboard(PasteOutput option, ClipboardMode clipboard
     const QClipboard *clipboard = QGuiApplication::clipboard();
     if (!clipboard || (mode == QClipboard::Selection && !clipboard->supportsSelection()))
         return {};
-    const QString text = clipboard->text(mode);
+    QString text = clipboard->text(mode);
     if (option == RichText)
         return text;
     QTextDocument document;

@@ -10,7 +10,8 @@
 class LKColorData;
 class LKEventData;
 
-/// What all button data share, without a meta-object of its own: the colours of background, border and text, which follow a theme and a state.
+/// What all button data share, without a meta-object of its own: the colours of background, border and text, which
+/// follow a theme and a state.
 class LUMAKITQML_EXPORT LKButtonColors : public WObject
 {
 public:

@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QString>
+#include <qqmlintegration.h>
 
 class LKEventData;
 
@@ -12,6 +13,7 @@ class LKEventData;
 class LUMAKITQML_EXPORT LKIconData : public WObject
 {
     Q_OBJECT
+    QML_ANONYMOUS
     /// The name of the icon to show now; empty for none.
     Q_PROPERTY(QString icon READ icon NOTIFY iconChanged)
 

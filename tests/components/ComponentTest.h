@@ -25,8 +25,7 @@ protected:
     QQuickWindow *window() const;
 
     /// The child with that object name, however deep and also of what is not an item.
-    template<typename T = QQuickItem>
-    T *find(const QString &objectName) const
+    template<typename T = QQuickItem> T *find(const QString &objectName) const
     {
         return root() ? root()->findChild<T *>(objectName) : nullptr;
     }

@@ -13,9 +13,9 @@ QByteArray threeButtons(const QByteArray &properties)
 {
     return "Column { WButton { objectName: 'before' } LKFocusManager { objectName: 'manager'; width: 100; height: 100;"
            " activeFocusOnTab: true; focusableItems: [a, b, c]; "
-           + properties
-           + " WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b' } WButton { id: c; objectName: 'c' } }"
-             " WButton { objectName: 'after' } }";
+        + properties
+        + " WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b' } WButton { id: c; objectName: 'c' } }"
+          " WButton { objectName: 'after' } }";
 }
 
 } // namespace
@@ -43,6 +43,7 @@ private Q_SLOTS:
     void withoutEnclosingManager();
     void proxy();
     void nestedWalk();
+    void galleryScreen();
     void loaders();
     void listView();
     void longListView();
@@ -286,10 +287,11 @@ void tst_FocusManager::takesFocusItself()
 
 void tst_FocusManager::handsOverWithoutWrapping()
 {
-    QVERIFY(show("LKFocusManager { objectName: 'outer'; forceNavigation: true; focusableItems: [inner, last]; width: 9;"
-                 " height: 9; LKFocusManager { id: inner; objectName: 'inner'; wrapAround: false; focusableItems: [a, b];"
-                 " WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b' } }"
-                 " WButton { id: last; objectName: 'last' } }"));
+    QVERIFY(
+        show("LKFocusManager { objectName: 'outer'; forceNavigation: true; focusableItems: [inner, last]; width: 9;"
+             " height: 9; LKFocusManager { id: inner; objectName: 'inner'; wrapAround: false; focusableItems: [a, b];"
+             " WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b' } }"
+             " WButton { id: last; objectName: 'last' } }"));
     auto *inner = find(u"inner"_s);
     root()->forceActiveFocus(Qt::TabFocusReason);
     QCOMPARE(focused(), u"inner"_s);
@@ -340,17 +342,45 @@ void tst_FocusManager::proxy()
 // A chain of managers is walked from end to end and back by Tab and Backtab alone.
 void tst_FocusManager::nestedWalk()
 {
-    QVERIFY(show("LKFocusManager { objectName: 'top'; forceNavigation: true; focusableItems: [one, two, three]; width: 9;"
-                 " height: 9; WButton { id: one; objectName: '1' }"
-                 " LKFocusManager { id: two; forceNavigation: true; wrapAround: false; focusableItems: [x, y];"
-                 "  LKFocusManager { id: x; forceNavigation: true; wrapAround: false; focusableItems: [p, q];"
-                 "   WButton { id: p; objectName: '2' } WButton { id: q; objectName: '3' } }"
-                 "  WButton { id: y; objectName: '4' } }"
-                 " WButton { id: three; objectName: '5' } }"));
+    QVERIFY(
+        show("LKFocusManager { objectName: 'top'; forceNavigation: true; focusableItems: [one, two, three]; width: 9;"
+             " height: 9; WButton { id: one; objectName: '1' }"
+             " LKFocusManager { id: two; forceNavigation: true; wrapAround: false; focusableItems: [x, y];"
+             "  LKFocusManager { id: x; forceNavigation: true; wrapAround: false; focusableItems: [p, q];"
+             "   WButton { id: p; objectName: '2' } WButton { id: q; objectName: '3' } }"
+             "  WButton { id: y; objectName: '4' } }"
+             " WButton { id: three; objectName: '5' } }"));
     root()->forceActiveFocus(Qt::TabFocusReason);
     QCOMPARE(focused(), u"1"_s);
     QCOMPARE(walk(Qt::Key_Tab, 6), QStringList({u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"1"_s, u"2"_s}));
     QCOMPARE(walk(Qt::Key_Backtab, 6), QStringList({u"1"_s, u"5"_s, u"4"_s, u"3"_s, u"2"_s, u"1"_s}));
+}
+
+// The screen of the gallery, from end to end and back.
+void tst_FocusManager::galleryScreen()
+{
+    QVERIFY(show("LKFocusManagerSample { }"));
+    find(u"screen"_s)->forceActiveFocus(Qt::TabFocusReason);
+    const auto name = [this] {
+        const QVariant text = window()->activeFocusItem()->property("text");
+        return text.toString().isEmpty() ? window()->activeFocusItem()->property("placeholderText").toString()
+                                         : text.toString();
+    };
+    const QStringList forth{u"Mute"_s,      u"Share"_s,   u"Ada"_s,   u"Bertrand"_s,
+                            u"Christine"_s, u"Message"_s, u"Leave"_s, u"Mute"_s};
+    QStringList walked{name()};
+    for (qsizetype i = 1; i < forth.size(); ++i) {
+        press(Qt::Key_Tab);
+        walked << name();
+    }
+    QCOMPARE(walked, forth);
+
+    QStringList back;
+    for (qsizetype i = 1; i < forth.size(); ++i) {
+        press(Qt::Key_Backtab);
+        back.prepend(name());
+    }
+    QCOMPARE(back, forth.first(forth.size() - 1));
 }
 
 void tst_FocusManager::loaders()
@@ -463,8 +493,9 @@ void tst_FocusManager::focusByClick()
 // A click on a managed item is as good as the keys.
 void tst_FocusManager::mouseClick()
 {
-    QVERIFY(show("LKFocusManager { objectName: 'manager'; focusableItems: [a, b]; width: 300; height: 100;"
-                 " Row { WButton { id: a; objectName: 'a'; text: 'A' } WButton { id: b; objectName: 'b'; text: 'B' } } }"));
+    QVERIFY(
+        show("LKFocusManager { objectName: 'manager'; focusableItems: [a, b]; width: 300; height: 100;"
+             " Row { WButton { id: a; objectName: 'a'; text: 'A' } WButton { id: b; objectName: 'b'; text: 'B' } } }"));
     click(find(u"b"_s));
     QCOMPARE(focused(), u"b"_s);
     QCOMPARE(root()->property("isNavigating").toBool(), true);

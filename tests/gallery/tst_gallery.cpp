@@ -525,6 +525,8 @@ QPointer<WPopupQuickView> tst_Gallery::showPopup(GalleryPopups::Kind kind, Qt::A
                 popups()->activate();
         } else if (!view) {
             m_window->requestActivate();
+        } else if (kind != GalleryPopups::ToolTip && view->isExposed() && !view->isActive()) {
+            popups()->activate(); // asked before it was mapped, a window manager may not listen
         }
         return view && view->isExposed() && (kind == GalleryPopups::ToolTip || view->isActive());
     });

@@ -13,9 +13,9 @@ GallerySample {
             { displayName: "Ada Lovelace", presence: "active" },
             { displayName: "Grace Hopper", source: "image://svg/" + App.getColorSet("tab-violet").normal + "/logo" },
             { displayName: "Wu" },
-            { initials: "+1" },
+            { displayName: "And one more", initials: "+1" },
             { displayName: "Émile Zola", presence: "away" },
-            {}
+            { displayName: "Somebody", initials: "" }
         ]
     }
     AvatarListStandard {

@@ -25,12 +25,12 @@ GallerySample {
     }
     LKBadgeButton {
         iconName: "bell-bold"
-        tooltip: "Notifications"
+        tooltip: "New notifications"
         badgeText: "7"
     }
     LKBadgeButton {
         iconName: "bell-bold"
-        tooltip: "Notifications"
+        tooltip: "No notifications"
     }
     LKBadgeButton {
         iconName: "chat-bold"

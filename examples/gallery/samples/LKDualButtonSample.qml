@@ -37,30 +37,30 @@ GallerySample {
     LKDualButton {
         enabled: false
         leftButtonIcon: "chevron-left-bold"
-        leftAccessibleName: "Previous day"
+        leftAccessibleName: "Day before"
         middleButtonIcon: "calendar"
         rightButtonIcon: "chevron-right-bold"
-        rightAccessibleName: "Next day"
+        rightAccessibleName: "Day after"
         text: "Disabled"
     }
     LKDualButton {
         width: 160
         enableResize: true
         leftButtonIcon: "chevron-left-bold"
-        leftAccessibleName: "Previous day"
+        leftAccessibleName: "Previous Thursday"
         middleButtonIcon: "calendar"
         rightButtonIcon: "chevron-right-bold"
-        rightAccessibleName: "Next day"
+        rightAccessibleName: "Next Thursday"
         text: "Donnerstag, 25. September"
     }
     LKDualButton {
         width: 240
         enableResize: true
         leftButtonIcon: "chevron-left-bold"
-        leftAccessibleName: "Previous day"
+        leftAccessibleName: "Yesterday"
         middleButtonIcon: "calendar"
         rightButtonIcon: "chevron-right-bold"
-        rightAccessibleName: "Next day"
+        rightAccessibleName: "Tomorrow"
         text: "Today"
     }
 }

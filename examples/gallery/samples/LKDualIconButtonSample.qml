@@ -13,9 +13,9 @@ GallerySample {
     LKDualIconButton {
         horizontal: false
         leftButtonIcon: "plus-bold"
-        leftAccessibleName: "Zoom in"
+        leftAccessibleName: "Larger"
         rightButtonIcon: "minus-bold"
-        rightAccessibleName: "Zoom out"
+        rightAccessibleName: "Smaller"
     }
     LKDualIconButton {
         isOverlay: true

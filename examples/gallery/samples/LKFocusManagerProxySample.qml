@@ -12,6 +12,8 @@ GallerySample {
         forceNavigation: true
         focusableItems: [save, proxy]
 
+        Accessible.name: "Contact"
+
         Row {
             id: row
 

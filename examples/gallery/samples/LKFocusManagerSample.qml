@@ -1,54 +1,111 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import LumakitQml 1.0
 
-// Return enters the group, Tab moves inside, Escape leaves.
+// A screen that is walked by Tab and Backtab alone: managers in a manager, with buttons, a list, a field behind its
+// proxy and a button that is loaded.
 GallerySample {
-    subject: manager
+    id: sample
 
-    WButton {
-        text: "Before"
-    }
+    subject: screen
+
     LKFocusManager {
-        id: manager
+        id: screen
 
-        width: group.implicitWidth
-        height: group.implicitHeight
+        objectName: "screen"
+        width: column.implicitWidth
+        height: column.implicitHeight
         activeFocusOnTab: true
-        focusableItems: [red, green, blue]
+        forceNavigation: true
+        focusableItems: [toolBar, people, form, loader]
 
         Accessible.role: Accessible.Grouping
-        Accessible.name: "Colours"
+        Accessible.name: "Meeting"
 
-        WFrame {
-            id: group
+        Column {
+            id: column
 
-            implicitWidth: row.implicitWidth + 32
-            implicitHeight: row.implicitHeight + 32
-            borderColorSetName: manager.activeFocus && !manager.isNavigating ? "global-focus-outline"
-                                                                             : "separator-secondary"
+            spacing: 16
 
-            Row {
-                id: row
+            LKFocusManager {
+                id: toolBar
 
-                anchors.centerIn: parent
-                spacing: 16
+                width: buttons.implicitWidth
+                height: buttons.implicitHeight
+                forceNavigation: true
+                wrapAround: false
+                focusableItems: [mute, camera, share]
 
-                WButton {
-                    id: red
-                    text: "Red"
+                Accessible.role: Accessible.ToolBar
+                Accessible.name: "Controls"
+
+                Row {
+                    id: buttons
+
+                    spacing: 16
+
+                    WButton {
+                        id: mute
+                        text: "Mute"
+                    }
+                    WButton {
+                        id: camera
+                        text: "Camera"
+                        enabled: false
+                    }
+                    WButton {
+                        id: share
+                        text: "Share"
+                    }
                 }
-                WButton {
-                    id: green
-                    text: "Green"
+            }
+            LKFocusManager {
+                id: people
+
+                width: 240
+                height: 76
+                forceNavigation: true
+                wrapAround: false
+                focusableItems: list
+
+                Accessible.role: Accessible.Grouping
+                Accessible.name: "People"
+
+                ListView {
+                    id: list
+
+                    anchors.fill: parent
+                    clip: true
+                    spacing: 4
+                    model: ["Ada", "Bertrand", "Christine"]
+
+                    delegate: WButton {
+                        required property string modelData
+
+                        width: ListView.view.width
+                        text: modelData
+                    }
                 }
-                WButton {
-                    id: blue
-                    text: "Blue"
+            }
+            LKFocusManagerProxy {
+                id: form
+
+                target: field
+
+                WTextField {
+                    id: field
+                    width: 240
+                    placeholderText: "Message"
+                }
+            }
+            Loader {
+                id: loader
+
+                sourceComponent: WButton {
+                    text: "Leave"
                 }
             }
         }
-    }
-    WButton {
-        text: "After"
     }
 }

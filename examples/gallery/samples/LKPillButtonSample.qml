@@ -17,6 +17,7 @@ GallerySample {
         id: first
         text: "Join"
         leftIcon: "video-bold"
+        Accessible.name: "Join the meeting"
     }
     LKPillButton {
         text: "Both icons"
@@ -36,6 +37,7 @@ GallerySample {
     }
     LKPillButton {
         rightIcon: "chevron-down-bold"
+        Accessible.name: "More"
     }
     LKPillButton {
         width: 120
@@ -51,6 +53,7 @@ GallerySample {
 
             text: modelData
             buttonStyle: index + 1
+            Accessible.name: "Style " + modelData
         }
     }
     Repeater {

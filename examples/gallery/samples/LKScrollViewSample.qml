@@ -16,6 +16,7 @@ GallerySample {
                   + "wheel, by the bar and by the keyboard. Nothing of it is lost."
             wrapMode: Text.Wrap
         }
+        Accessible.name: "Text"
     }
     LKScrollView {
         width: 200
@@ -28,6 +29,7 @@ GallerySample {
             borderColorSetName: "separator-primary"
             backgroundColorSetName: "panel-secondary-background"
         }
+        Accessible.name: "Picture"
     }
     LKScrollView {
         WText {

@@ -6,6 +6,7 @@ GallerySample {
     LKTextAreaBase {
         id: area
         text: "The agenda:\n1. Numbers\n2. Plans"
+        placeholderText: "Agenda"
     }
     LKTextAreaBase {
         placeholderText: "Description"
@@ -13,9 +14,11 @@ GallerySample {
     LKTextAreaBase {
         text: "Read-only"
         readOnly: true
+        placeholderText: "Read-only"
     }
     LKTextAreaBase {
         text: "Disabled"
         enabled: false
+        placeholderText: "Disabled"
     }
 }

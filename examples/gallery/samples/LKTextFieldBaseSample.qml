@@ -7,6 +7,7 @@ GallerySample {
     LKTextFieldBase {
         id: field
         text: "Planning room"
+        placeholderText: "Room"
     }
     LKTextFieldBase {
         placeholderText: "Meeting number"
@@ -14,17 +15,21 @@ GallerySample {
     LKTextFieldBase {
         text: "Password"
         echoMode: TextInput.Password
+        placeholderText: "Password"
     }
     LKTextFieldBase {
         text: "Wrong"
         showErrorState: true
+        placeholderText: "Mail"
     }
     LKTextFieldBase {
         text: "Read-only"
         readOnly: true
+        placeholderText: "Read-only"
     }
     LKTextFieldBase {
         text: "Disabled"
         enabled: false
+        placeholderText: "Disabled"
     }
 }

@@ -6,6 +6,7 @@ GallerySample {
     LKTextField {
         id: field
         text: "Planning room"
+        placeholderText: "Room"
     }
     LKTextField {
         placeholderText: "Find people"
@@ -15,25 +16,30 @@ GallerySample {
         text: "Password"
         leftIcon: "lock"
         isPasswordInput: true
+        placeholderText: "Password"
     }
     LKTextField {
         text: "Password"
         isPasswordInput: true
         isPasswordVisible: true
+        placeholderText: "Shown password"
     }
     LKTextField {
         text: "Wrong"
         leftIcon: "mail"
         showErrorState: true
+        placeholderText: "Mail"
     }
     LKTextField {
         text: "Read-only"
         readOnly: true
+        placeholderText: "Read-only"
     }
     LKTextField {
         text: "Disabled"
         leftIcon: "mail"
         enabled: false
+        placeholderText: "Disabled"
     }
     LKTextField {
         placeholderText: "Besprechungsnummer oder Name des Besprechungsraums"
@@ -43,5 +49,6 @@ GallerySample {
         width: 160
         text: "A text that is longer than its field"
         leftIcon: "search"
+        placeholderText: "Title"
     }
 }

@@ -14,6 +14,7 @@ GallerySample {
         infoTest: "There is no such meeting"
         text: "1"
         showErrorState: true
+        accessibleName: "Wrong meeting number"
     }
     LKTextInputField {
         titleText: "People"

@@ -20,8 +20,8 @@ GallerySample {
     LKToggleButton {
         enabled: false
         leftButtonIcon: "list-bold"
-        leftAccessibleName: "List"
+        leftAccessibleName: "Lines"
         rightButtonIcon: "grid-bold"
-        rightAccessibleName: "Grid"
+        rightAccessibleName: "Tiles"
     }
 }

@@ -37,7 +37,7 @@ GallerySample {
         WSvgIconButton {
             anchors.horizontalCenter: parent.horizontalCenter
             iconName: "more-horizontal-bold"
-            tooltip: "More"
+            tooltip: "More people"
 
             WButtonsOverflowList {
                 visible: sample.opensPopups

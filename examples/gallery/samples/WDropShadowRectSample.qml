@@ -7,7 +7,8 @@ GallerySample {
     subject: shadow
 
     component Card: WFrame {
-        anchors.fill: parent
+        width: parent.width
+        height: parent.height
         radius: 8
         backgroundColorSetName: "modal-primary-background"
         borderColorSetName: "modal-primary-border"

@@ -10,6 +10,9 @@ GallerySample {
         property alias text: label.text
 
         width: 264
+
+        Accessible.name: text
+
         nextSibVisualFocusItem: visualFocusItem === item ? callButton : null
         prevSibVisualFocusItem: visualFocusItem === item ? null : item
 

@@ -19,6 +19,7 @@ GallerySample {
             ListElement { session: "Everybody"; text: "Lise Benachrichtigungseinstellungen" }
             ListElement { session: "Everybody"; text: "Max" }
         }
+        Accessible.name: "Contacts"
     }
     WExpandableListView {
         width: 240

@@ -14,10 +14,12 @@ GallerySample {
     WFlickableTextEdit {
         width: 240
         textEdit.text: "Short"
+        accessibleText: "Answer"
     }
     WFlickableTextEdit {
         width: 240
         textEdit.text: "Disabled"
         enabled: false
+        accessibleText: "Disabled"
     }
 }

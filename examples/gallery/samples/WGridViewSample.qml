@@ -14,6 +14,9 @@ GallerySample {
         cellHeight: 80
         scrollBar.timerInterval: 0
         model: 20
+
+        Accessible.name: "Pages"
+
         delegate: Item {
             id: cell
 

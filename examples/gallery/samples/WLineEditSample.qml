@@ -7,6 +7,7 @@ GallerySample {
     WLineEdit {
         id: edit
         text: "One line"
+        placeholderText: "Subject"
     }
     WLineEdit {
         placeholderText: "Title"
@@ -14,10 +15,12 @@ GallerySample {
     WLineEdit {
         text: "Disabled"
         enabled: false
+        placeholderText: "Disabled"
     }
     WLineEdit {
         width: 200
         text: "Benachrichtigungseinstellungen für Besprechungen"
         Component.onCompleted: cursorPosition = length
+        placeholderText: "Page"
     }
 }

@@ -39,6 +39,7 @@ GallerySample {
         scrollBar.timerInterval: 0
         listView.model: 12
         listView.delegate: Row {}
+        Accessible.name: "Contacts"
     }
     WListView {
         width: 264
@@ -57,5 +58,6 @@ GallerySample {
         scrollable: false
         listView.model: 3
         listView.delegate: Row {}
+        Accessible.name: "Contacts that cannot be chosen"
     }
 }

@@ -10,13 +10,19 @@ GallerySample {
     }
     WSearchField {
         searchText: "Ada"
+        serachFieldPlaceHolderText: "Search contacts"
+        cancelButtonAccText: "Clear contacts"
     }
     WSearchField {
         searchText: "A text that is longer than the field is wide"
+        serachFieldPlaceHolderText: "Search messages"
+        cancelButtonAccText: "Clear messages"
     }
     WSearchField {
         searchText: "Rectangle"
         borderRadius: 4
+        serachFieldPlaceHolderText: "Search files"
+        cancelButtonAccText: "Clear files"
     }
     WSearchField {
         serachFieldPlaceHolderText: "Disabled"

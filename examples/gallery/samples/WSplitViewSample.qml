@@ -42,6 +42,7 @@ GallerySample {
                 elide: Text.ElideRight
             }
         }
+        handleAccessibleName: "Width"
     }
     WSplitView {
         width: 248
@@ -54,6 +55,7 @@ GallerySample {
         WPane {
             T.SplitView.fillHeight: true
         }
+        handleAccessibleName: "Height"
     }
     WSplitView {
         width: 248
@@ -66,5 +68,6 @@ GallerySample {
         WPane {
             T.SplitView.fillWidth: true
         }
+        handleAccessibleName: "Disabled"
     }
 }

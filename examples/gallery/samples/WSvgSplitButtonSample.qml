@@ -38,6 +38,6 @@ GallerySample {
         width: 160
         leftButton.iconName: "folder"
         leftButton.text: "Too long for its width"
-        rightButton.tooltip: "Options"
+        rightButton.tooltip: "Folders"
     }
 }

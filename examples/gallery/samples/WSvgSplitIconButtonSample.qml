@@ -22,9 +22,9 @@ GallerySample {
     WSvgSplitIconButton {
         horizontalLayout: false
         leftButton.iconName: "zoom-in"
-        leftButton.tooltip: "Zoom in"
+        leftButton.tooltip: "Larger"
         rightButton.iconName: "zoom-out"
-        rightButton.tooltip: "Zoom out"
+        rightButton.tooltip: "Smaller"
     }
     WSvgSplitIconButton {
         leftButton.iconName: "undo"

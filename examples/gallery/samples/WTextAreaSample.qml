@@ -7,6 +7,7 @@ GallerySample {
     WTextArea {
         id: area
         text: "The agenda:\n1. Numbers\n2. Plans"
+        placeholderText: "Agenda"
     }
     WTextArea {
         placeholderText: "Description"
@@ -14,10 +15,12 @@ GallerySample {
     WTextArea {
         text: "Read-only"
         readOnly: true
+        placeholderText: "Read-only"
     }
     WTextArea {
         text: "Disabled"
         enabled: false
+        placeholderText: "Disabled"
     }
     WTextArea {
         width: 240
@@ -25,5 +28,6 @@ GallerySample {
         text: "A long text scrolls inside where the height is limited: with the cursor, by the wheel and by the page, "
               + "and whatever of it is out of sight is cut at the frame."
         Component.onCompleted: cursorPosition = length
+        placeholderText: "Notes"
     }
 }

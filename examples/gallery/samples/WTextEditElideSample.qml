@@ -13,11 +13,13 @@ GallerySample {
         maximumWidth: 200
         elideMode: Text.ElideMiddle
         originalText: "sip:planning-room-on-the-third-floor@example.org"
+        Accessible.name: originalText + ", shortened in the middle"
     }
     WTextEditElide {
         maximumWidth: 200
         elideMode: Text.ElideLeft
         originalText: "sip:planning-room-on-the-third-floor@example.org"
+        Accessible.name: originalText + ", shortened at the start"
     }
     WTextEditElide {
         maximumWidth: 200

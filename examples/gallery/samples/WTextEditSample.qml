@@ -7,6 +7,7 @@ GallerySample {
     WTextEdit {
         id: edit
         text: "To edit and to select"
+        Accessible.name: "Text"
     }
     WTextEdit {
         readOnly: true
@@ -15,13 +16,16 @@ GallerySample {
     WTextEdit {
         text: "Disabled"
         enabled: false
+        Accessible.name: "Disabled"
     }
     WTextEdit {
         text: "Selected"
         Component.onCompleted: selectAll()
+        Accessible.name: "Selected"
     }
     WTextEdit {
         width: 240
         text: "Lines are wrapped where the width is limited.\nBenachrichtigungseinstellungen"
+        Accessible.name: "Lines"
     }
 }

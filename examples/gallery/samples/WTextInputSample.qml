@@ -8,6 +8,7 @@ GallerySample {
         id: input
         width: 160
         text: "To edit"
+        placeholderText: "Title"
     }
     WTextInput {
         width: 160
@@ -22,14 +23,17 @@ GallerySample {
         width: 160
         text: "Password"
         echoMode: TextInput.Password
+        placeholderText: "Password"
     }
     WTextInput {
         width: 160
         text: "Benachrichtigungseinstellungen"
+        placeholderText: "Page"
     }
     WTextInput {
         width: 160
         text: "Disabled"
         enabled: false
+        placeholderText: "Disabled"
     }
 }

@@ -118,6 +118,7 @@ off-white     | neutral: 94                  | neutral: 90                  | ne
 
 line          | neutral: 86                  | neutral: 28                  | neutral: 80
 line-light    | neutral: 91                  | neutral: 22                  | neutral: 62
+trough        | neutral: 86                  | neutral: 28                  | neutral: 45
 rim           | neutral: 84                  | neutral: 32                  | neutral: 100
 card-edge     | neutral: 86 76 66 91 accent-46 accent-60 | neutral: 28 38 48 22 accent-72 accent-50 | neutral: 100 accent-86 accent-92 62 yellow-90 accent-96
 edge          | neutral: 52 42 30 84 accent-46 accent-38 | neutral: 60 70 82 32 accent-72 accent-80 | neutral: 100 accent-86 accent-92 62 yellow-90 accent-96
@@ -290,8 +291,8 @@ search                              background=field border=edge placeholder-tex
 separator                           primary=line secondary=line-light
 shortcutinput-inactive              background=field border=edge text=ink textBackground=key
 shortcutinput-active-{{available:success,checking:info,populated:accent,reassign:warning,unavailable:danger}}  background=field@$ border=edge@$ text=soft-text@$ textBackground=soft@$
-spinner-loading                     cursor=mark@accent track=line common-cursor=mark@neutral common-track=line
-spinner-progress                    cursor=mark@accent track=line
+spinner-loading                     cursor=mark@accent track=trough common-cursor=mark@neutral common-track=trough
+spinner-progress                    cursor=mark@accent track=trough
 tab                                 active-background=notice@accent active-text=soft-text@accent inactive-background=row inactive-text=nav refresh=mark@accent
 tab-{{{HUES},cyan,pink}}            .=mark@$
 tag-{{{HUES},pink,primary:accent,static:neutral}}   background=soft@$ border=soft-edge@$ text=soft-text@$
