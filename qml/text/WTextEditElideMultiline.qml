@@ -29,9 +29,8 @@ WTextEdit {
     // How many lines the text has in full.
     property int wrappedLines: 0
     readonly property bool elided: text !== originalText
-    // What the shown text depends on.
-    readonly property var inputs: [originalText, elideMode, fixedHeight, maximumLineCount, font,
-                                   maximumWidth < 0 ? width : maximumWidth]
+    // What the shown text depends on, beside the width.
+    readonly property var inputs: [originalText, elideMode, fixedHeight, maximumLineCount, font, maximumWidth]
     property bool ready: false
 
     // Copies what the selection stands for in the original.
@@ -74,6 +73,7 @@ WTextEdit {
     cursorVisible: showCaretOnActiveFocus && activeFocus
 
     onInputsChanged: elideText()
+    onWidthChanged: elideText()
     Component.onCompleted: {
         ready = true;
         elideText();

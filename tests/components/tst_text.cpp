@@ -75,6 +75,7 @@ private Q_SLOTS:
     void elideMultiline_data();
     void elideMultiline();
     void elideMultilineFollowsItsInput();
+    void elideMultilineWithoutAMaximumWidth();
     void elideMultilineCopiesTheOriginal();
     void elideMultilineShowsACaretOnDemand();
 
@@ -896,6 +897,21 @@ void tst_Text::elideMultilineFollowsItsInput()
     edit->setProperty("originalText", u"Short"_s);
     QCOMPARE(text(), u"Short"_s);
     QCOMPARE(edit->property("wrappedLines").toInt(), 1);
+}
+
+// As wide as its text, it follows the text without a loop.
+void tst_Text::elideMultilineWithoutAMaximumWidth()
+{
+    QQuickItem *edit = show("WTextEditElideMultiline", "maximumLineCount: 1");
+    QVERIFY(edit);
+    edit->setProperty("originalText", u"First line\nsecond line"_s);
+    QCOMPARE(edit->property("wrappedLines").toInt(), 2);
+    QVERIFY(edit->property("elided").toBool());
+    const double narrow = edit->width();
+    edit->setProperty("originalText", u"A first line that is much longer\nsecond line"_s);
+    QVERIFY(edit->width() > narrow);
+    edit->setProperty("originalText", u"One line"_s);
+    QCOMPARE(edit->property("text").toString(), u"One line"_s);
 }
 
 void tst_Text::elideMultilineCopiesTheOriginal()

@@ -4,6 +4,7 @@
 #include <WQmlEngine.h>
 #include <WQuickView.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QMetaEnum>
@@ -1051,10 +1052,15 @@ void tst_WQmlEngine::viewDeletedInCallback()
 
 namespace {
 
+// Each time with another time stamp: the engine's cache takes a file of the same as unchanged, and two writes may come
+// within one tick of the file system's clock.
 void write(const QString &path, const QByteArray &text)
 {
+    static int seconds = 0;
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+    const QDateTime stamp = QDateTime::currentDateTime().addSecs(++seconds);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush()
+        || !file.setFileTime(stamp, QFileDevice::FileModificationTime))
         qFatal("cannot write a test file");
 }
 
