@@ -73,7 +73,11 @@ WTextEdit {
     cursorVisible: showCaretOnActiveFocus && activeFocus
 
     onInputsChanged: elideText()
-    onWidthChanged: elideText()
+    // A width that is not its own: its own follows from the text.
+    onWidthChanged: {
+        if (maximumWidth < 0 && width !== implicitWidth)
+            elideText();
+    }
     Component.onCompleted: {
         ready = true;
         elideText();

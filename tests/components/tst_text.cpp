@@ -910,6 +910,12 @@ void tst_Text::elideMultilineWithoutAMaximumWidth()
     const double narrow = edit->width();
     edit->setProperty("originalText", u"A first line that is much longer\nsecond line"_s);
     QVERIFY(edit->width() > narrow);
+    application()->setFontScaleFactor(1.5);
+    QVERIFY(edit->property("elided").toBool());
+    edit->setProperty("maximumWidth", 120);
+    application()->setFontScaleFactor(1);
+    QVERIFY(edit->width() <= 120);
+    edit->setProperty("maximumWidth", -1);
     edit->setProperty("originalText", u"One line"_s);
     QCOMPARE(edit->property("text").toString(), u"One line"_s);
 }
