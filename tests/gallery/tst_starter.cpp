@@ -132,6 +132,8 @@ void tst_Starter::activate(const QString &link, const QString &with) const
     if (with == "mouse"_L1) {
         QTest::mouseClick(window(), Qt::LeftButton, {}, centerOf(target));
     } else if (with == "keyboard"_L1) {
+        window()->requestActivate(); // keys go to the active window only
+        QVERIFY(QTest::qWaitForWindowActive(window()));
         for (int tabs = 0; tabs < 5 && !target->hasActiveFocus(); ++tabs)
             QTest::keyClick(window(), Qt::Key_Tab);
         QVERIFY(target->hasActiveFocus());
