@@ -21,8 +21,10 @@ void ButtonBackground::setButtonData(QObject *buttonData)
     // Without a meta-object of its own the common base is no target of qobject_cast.
     m_data = dynamic_cast<LKButtonColors *>(buttonData);
     if (m_data) {
-        connect(m_data->backgroundColorData(), &LKColorData::colorChanged, this, &ButtonBackground::updateColors);
-        connect(m_data->borderColorData(), &LKColorData::colorChanged, this, &ButtonBackground::updateColors);
+        for (const LKColorData *color : {m_data->backgroundColorData(), m_data->borderColorData()}) {
+            if (color)
+                connect(color, &LKColorData::colorChanged, this, &ButtonBackground::updateColors);
+        }
         updateColors();
     }
     Q_EMIT buttonDataChanged();

@@ -75,7 +75,7 @@ void ButtonContent::setButtonData(QObject *buttonData)
     m_data = dynamic_cast<LKButtonColors *>(buttonData);
     if (m_data) {
         if (LKColorData *color = m_data->textColorData())
-            connect(color, &LKColorData::colorChanged, this, &ButtonContent::refreshAll);
+            connect(color, &LKColorData::colorChanged, this, &ButtonContent::refreshColor);
         if (auto *data = qobject_cast<ILKButtonData *>(buttonData))
             connect(data, &ILKButtonData::iconSizeChanged, this, &ButtonContent::refreshAll);
         if (auto *pillData = qobject_cast<LKPillButtonData *>(buttonData)) {
@@ -216,6 +216,15 @@ void ButtonContent::refreshText()
         m_label->setFont(data->font());
     m_label->setColor(contentColor(m_data));
     m_label->setText(m_text);
+}
+
+// Sizes do not depend on the colour.
+void ButtonContent::refreshColor()
+{
+    refreshIcon(Left);
+    refreshIcon(Right);
+    if (m_label)
+        m_label->setColor(contentColor(m_data));
 }
 
 void ButtonContent::refreshAll()

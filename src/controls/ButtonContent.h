@@ -56,6 +56,7 @@ private:
     void setIcon(Side side, const QString &name);
     void refreshIcon(Side side);
     void refreshText();
+    void refreshColor();
     void refreshAll();
     void updateMetrics();
     bool isMirrored() const;
