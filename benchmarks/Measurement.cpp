@@ -16,40 +16,50 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+#ifdef Q_OS_WIN
+double nanoseconds(const FILETIME &kernel, const FILETIME &user)
+{
+    const auto ticks = [](FILETIME time) { return double(time.dwHighDateTime) * 4294967296.0 + time.dwLowDateTime; };
+    return (ticks(kernel) + ticks(user)) * 100.0;
+}
+#else
+double nanoseconds(clockid_t clock)
+{
+    timespec time{};
+    clock_gettime(clock, &time);
+    return double(time.tv_sec) * 1e9 + double(time.tv_nsec);
+}
+#endif
+
 double threadCpuNanoseconds()
 {
 #ifdef Q_OS_WIN
     FILETIME created, ended, kernel, user;
     GetThreadTimes(GetCurrentThread(), &created, &ended, &kernel, &user);
-    const auto ticks = [](FILETIME time) { return double(time.dwHighDateTime) * 4294967296.0 + time.dwLowDateTime; };
-    return (ticks(kernel) + ticks(user)) * 100.0;
+    return nanoseconds(kernel, user);
 #else
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e9 + double(time.tv_nsec);
+    return nanoseconds(CLOCK_THREAD_CPUTIME_ID);
 #endif
 }
 
-struct Samples
+Measurement::Sample take(const Measurement::Contender &contender, int calls)
 {
-    std::vector<double> wall;
-    std::vector<double> cpu;
+    if (contender.prepare)
+        contender.prepare();
+    QElapsedTimer timer;
+    const double cpuStart = threadCpuNanoseconds();
+    timer.start();
+    contender.run();
+    const double wall = double(timer.nsecsElapsed());
+    return {wall / calls, (threadCpuNanoseconds() - cpuStart) / calls};
+}
 
-    void take(const Measurement::Contender &contender, int calls)
-    {
-        if (contender.prepare)
-            contender.prepare();
-        QElapsedTimer timer;
-        const double cpuStart = threadCpuNanoseconds();
-        timer.start();
-        contender.run();
-        wall.push_back(double(timer.nsecsElapsed()) / calls);
-        cpu.push_back((threadCpuNanoseconds() - cpuStart) / calls);
-    }
-};
-
-double median(std::vector<double> values)
+double median(const std::vector<Measurement::Sample> &samples, double Measurement::Sample::*value)
 {
+    std::vector<double> values;
+    values.reserve(samples.size());
+    for (const Measurement::Sample &sample : samples)
+        values.push_back(sample.*value);
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
 }
@@ -67,6 +77,17 @@ QTextStream &out()
 
 } // namespace
 
+double Measurement::processCpuNanoseconds()
+{
+#ifdef Q_OS_WIN
+    FILETIME created, ended, kernel, user;
+    GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+    return nanoseconds(kernel, user);
+#else
+    return nanoseconds(CLOCK_PROCESS_CPUTIME_ID);
+#endif
+}
+
 void Measurement::printHead(const QString &title)
 {
     out() << title << "\n"
@@ -79,20 +100,28 @@ void Measurement::printHead(const QString &title)
 bool Measurement::compare(const QString &subject, const Contender &ours, const Contender &peer, double limit, int calls,
                           int repetitions)
 {
-    Samples ourSamples;
-    Samples peerSamples;
-    Samples().take(ours, calls);
-    Samples().take(peer, calls);
+    return compare(subject, SampledContender{ours.name, [&] { return take(ours, calls); }},
+                   SampledContender{peer.name, [&] { return take(peer, calls); }}, limit, repetitions);
+}
+
+bool Measurement::compare(const QString &subject, const SampledContender &ours, const SampledContender &peer,
+                          double limit, int repetitions)
+{
+    std::vector<Sample> ourSamples;
+    std::vector<Sample> peerSamples;
+    ours.run();
+    peer.run();
     for (int repetition = 0; repetition < repetitions; ++repetition) {
-        ourSamples.take(ours, calls);
-        peerSamples.take(peer, calls);
+        ourSamples.push_back(ours.run());
+        peerSamples.push_back(peer.run());
     }
-    const double cpuRatio = median(ourSamples.cpu) / median(peerSamples.cpu);
-    const double wallRatio = median(ourSamples.wall) / median(peerSamples.wall);
+    const double ourCpu = median(ourSamples, &Sample::cpu);
+    const double peerCpu = median(peerSamples, &Sample::cpu);
+    const double cpuRatio = ourCpu / peerCpu;
+    const double wallRatio = median(ourSamples, &Sample::wall) / median(peerSamples, &Sample::wall);
     const bool holds = cpuRatio <= limit;
-    out() << subject.leftJustified(34) << microseconds(median(ourSamples.cpu)).rightJustified(13)
-          << microseconds(median(peerSamples.cpu)).rightJustified(13)
-          << QString::number(cpuRatio, 'f', 2).rightJustified(11)
+    out() << subject.leftJustified(34) << microseconds(ourCpu).rightJustified(13)
+          << microseconds(peerCpu).rightJustified(13) << QString::number(cpuRatio, 'f', 2).rightJustified(11)
           << QString::number(wallRatio, 'f', 2).rightJustified(12)
           << (QString::number(limit, 'f', 2) + (holds ? u" "_s : u"!"_s)).rightJustified(9) << "  " << peer.name << "\n"
           << Qt::flush;

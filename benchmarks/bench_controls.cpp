@@ -1,17 +1,13 @@
+#include "BenchHost.h"
 #include "Measurement.h"
 
-#include <LKQmlRegister.h>
-#include <WApplication.h>
 #include <WQmlEngine.h>
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QLoggingCategory>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickView>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTextStream>
 
 #ifdef Q_OS_LINUX
@@ -19,6 +15,8 @@
 #endif
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -107,6 +105,108 @@ void compareCreation(QQuickView &view)
     }
 }
 
+// 200 icons, twenty of each file, on a window.
+class IconScene
+{
+public:
+    // `body` has %1 for the icon's name, `colorProperty` is that of the icon.
+    IconScene(QQuickView &view, const QByteArray &body, const char *colorProperty)
+        : m_view(view)
+        , m_colorProperty(colorProperty)
+    {
+        for (const char *name : Names)
+            m_components.push_back(compile(view.engine(), QByteArray(body).replace("%1", name)));
+    }
+
+    void clear() { m_scene.reset(); }
+
+    QImage show()
+    {
+        m_scene = std::make_unique<QQuickItem>(m_view.contentItem());
+        for (const auto &component : m_components)
+            create(component.get(), m_scene.get(), CountEach);
+        const auto icons = m_scene->childItems();
+        for (qsizetype i = 0; i < icons.size(); ++i)
+            icons[i]->setPosition({double(i % 20) * 32, double(i / 20) * 32});
+        return m_view.grabWindow();
+    }
+
+    QImage recolor(const QColor &color)
+    {
+        const auto icons = m_scene->childItems();
+        for (QQuickItem *icon : icons)
+            icon->setProperty(m_colorProperty, color);
+        return m_view.grabWindow();
+    }
+
+private:
+    static constexpr int CountEach = 20;
+    static constexpr std::array Names{"video-bold",    "bell-filled", "calendar", "camera-bold", "chat",
+                                      "settings-bold", "microphone",  "users",    "star-filled", "search"};
+
+    QQuickView &m_view;
+    const char *m_colorProperty;
+    std::vector<std::unique_ptr<QQmlComponent>> m_components;
+    std::unique_ptr<QQuickItem> m_scene;
+};
+
+// Pixels that are nothing but the colour.
+qsizetype inkOf(const QImage &image, const QColor &color)
+{
+    qsizetype count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixel(x, y) == color.rgb() ? 1 : 0;
+    }
+    return count;
+}
+
+// The time of the GUI thread until the icons are painted, which it does itself where there is no GPU.
+void compareIcons(QQuickView &view)
+{
+    constexpr int Count = 200;
+    IconScene our(view, "WSvgIcon { svgName: '%1'; svgColor: 'red' }", "svgColor");
+    IconScene their(view, "Impl.IconImage { width: 24; height: 24; source: 'qrc:/Resources/%1.svg'; color: 'red' }",
+                    "color");
+    const QString peer = u"IconImage"_s;
+    QImage ourImage;
+    QImage theirImage;
+    // The same icons in the same colour, or nothing was measured.
+    const auto expectInk = [&](const QColor &color) {
+        const auto ourInk = double(inkOf(ourImage, color));
+        const auto theirInk = double(inkOf(theirImage, color));
+        if (theirInk < Count || std::abs(ourInk - theirInk) > theirInk / 10)
+            qFatal("the icons are not painted: %g pixels against %g", ourInk, theirInk);
+    };
+    const auto clear = [&] {
+        our.clear();
+        their.clear();
+    };
+
+    Measurement::printHead(u"200 icons in a window, to the frame"_s);
+    Measurement::compare(u"shown, files loaded before"_s, {u"WSvgIcon"_s, [&] { ourImage = our.show(); }, clear},
+                         {peer, [&] { theirImage = their.show(); }, clear}, 1, Count);
+    expectInk(Qt::red);
+
+    const auto compareColors = [&](const QString &subject, const std::function<QColor(int)> &colorOf) {
+        int ourRound = 0;
+        int theirRound = 0;
+        const auto prepare = [&](IconScene &scene) {
+            return [&clear, &scene] {
+                clear();
+                scene.show();
+            };
+        };
+        Measurement::compare(
+            subject, {u"svgColor"_s, [&] { ourImage = our.recolor(colorOf(ourRound++)); }, prepare(our)},
+            {peer, [&] { theirImage = their.recolor(colorOf(theirRound++)); }, prepare(their)}, 1, Count);
+        expectInk(colorOf(ourRound - 1));
+    };
+    compareColors(u"recoloured"_s, [](int round) { return QColor(0, 80, round); });
+    compareColors(u"recoloured, as once before"_s, [](int round) { return QColor(round % 2, 160, 0); });
+    clear();
+}
+
 // What each component costs by itself: the median time to make one, and how many items and other objects it is.
 void listComponents(QQmlEngine *engine)
 {
@@ -181,20 +281,16 @@ void compareThemeSwitch(QQuickView &view, WApplication &application)
 
 int main(int argc, char **argv)
 {
-    QLoggingCategory::setFilterRules(u"default.debug=false\ndefault.warning=false"_s); // the table stays whole
-    const QTemporaryDir settings;
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
-    WApplication application(argc, argv);
-    qmlRegisterSingletonInstance("Corvane", 1, 0, "App", &application);
-    LKQmlRegister::registerLKQmlDataTypes();
-    LKQmlRegister::registerLKQmlComponents();
+    const BenchSurroundings surroundings;
+    BenchHost application(argc, argv);
 
     QQuickView view(application.getQmlEngine(), nullptr);
     view.resize(800, 600);
     view.show();
     compareCreation(view);
+    compareIcons(view);
     compareThemeSwitch(view, application);
+    QLoggingCategory::setFilterRules(u"default=false"_s); // not every component is at ease by itself
     listComponents(view.engine());
     return EXIT_SUCCESS;
 }

@@ -1,16 +1,13 @@
+#include "BenchHost.h"
 #include "Measurement.h"
 #include "MemoryResources.h"
 
-#include <WApplication.h>
 #include <WQmlEngine.h>
 #include <WThemeUtils.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLoggingCategory>
 #include <QQmlComponent>
-#include <QSettings>
-#include <QTemporaryDir>
 
 #include <cstdlib>
 
@@ -65,12 +62,8 @@ int main(int argc, char **argv)
 {
     const QMap<QString, QByteArray> files = fullTheme();
     const MemoryResources resources(files);
-    QLoggingCategory::setFilterRules(u"default.debug=false"_s); // the table stays whole
-    const QTemporaryDir settings;
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
-    WApplication application(argc, argv);
-    qmlRegisterSingletonInstance("Corvane", 1, 0, "App", &application);
+    const BenchSurroundings surroundings;
+    BenchHost application(argc, argv);
 
     Measurement::printHead(u"Theme"_s);
 
