@@ -23,8 +23,8 @@ WRectangle {
     property font font: FontConstants.tagLabelSecondary
     readonly property bool isCapped: maxNumber > 0 && /^\s*\d+\s*$/.test(text) && Number(text) > maxNumber
 
-    implicitHeight: text === "" ? 8 : Math.max(16, Math.ceil(label.implicitHeight) + 2)
-    implicitWidth: text === "" ? 8 : Math.max(implicitHeight, Math.ceil(label.implicitWidth) + 10)
+    implicitHeight: text === "" ? 8 : Math.max(16, 4 * Math.ceil((label.implicitHeight + 2) / 4))
+    implicitWidth: text === "" ? 8 : Math.max(implicitHeight, 4 * Math.ceil((label.implicitWidth + 10) / 4))
     radius: Math.min(width, height) / 2
     backgroundColorSetName: badgeType === LKBadge.Secondary ? "badge-secondary-background" : "badge-background"
 

@@ -16,6 +16,7 @@ import QtQuick
 import QtQuick.Layouts
 import Corvane 1.0
 import LumakitQml 1.0
+import LumakitQml.Private 1.0
 import "ThemeUtils.js" as ThemeUtils
 
 ColumnLayout {
@@ -164,11 +165,17 @@ ColumnLayout {
             Loader {
                 active: root.isTransferring
                 visible: active
-                sourceComponent: WSvgIconButton {
-                    implicitHeight: 28
-                    iconName: "close-bold"
-                    tooltip: root.cancelButtonTooltip
-                    onTriggered: root.cancelClicked()
+                sourceComponent: LKRoundButton {
+                    buttonIcon: "close-bold"
+                    buttonStyle: LKButtonStyle.Ghost
+                    buttonSize: LKButtonSize.XS
+                    onClicked: root.cancelClicked()
+
+                    Accessible.name: root.cancelButtonTooltip
+
+                    ToolTipTrigger {
+                        text: root.cancelButtonTooltip
+                    }
                 }
             }
         }

@@ -31,9 +31,10 @@ WFrame {
     // Around the whole, pixels.
     property int padding: 24
     readonly property real availableWidth: Math.max(0, width - 2 * padding)
+    readonly property real contentWidth: Math.max(picture.width, titleText.implicitWidth, subtitleText.preferredWidth)
 
-    implicitWidth: 2 * padding + Math.ceil(Math.max(picture.width, titleText.implicitWidth,
-                                                   subtitleText.preferredWidth))
+    // Whole pixels of the screen: the border is as thin on every side.
+    implicitWidth: Math.ceil((2 * padding + contentWidth) * Screen.devicePixelRatio) / Screen.devicePixelRatio
     implicitHeight: 2 * padding + Math.ceil(content.implicitHeight)
 
     Column {

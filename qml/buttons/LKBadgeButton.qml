@@ -66,6 +66,7 @@ WButton {
                 font: control.font
                 color: control.textColor
                 elide: control.elide
+                horizontalAlignment: Text.AlignLeft
             }
             Loader {
                 visible: active

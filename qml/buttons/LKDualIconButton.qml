@@ -78,11 +78,17 @@ RowLayout {
                 KeyNavigation.down: root.horizontal ? null : right
                 Accessible.name: root.leftAccessibleName
             }
-            WRectangle {
+            Item {
                 width: root.horizontal ? 1 : 16
                 height: root.horizontal ? 16 : 1
-                themeType: root.themeType
-                backgroundColorSetName: root.borderColorSetName
+
+                WSeparator {
+                    width: root.horizontal ? thickness : parent.width
+                    height: root.horizontal ? parent.height : thickness
+                    themeType: root.themeType
+                    backgroundColorSetName: root.borderColorSetName
+                    Accessible.ignored: true
+                }
             }
             Cell {
                 id: right

@@ -16,21 +16,24 @@ import "ThemeUtils.js" as ThemeUtils
 WButton {
     id: control
 
-    // The colours of title and names. In a high-contrast theme they follow the row's state.
-    property color textPrimaryNormal: textColorSet.normal
-    property color textSecondaryNormal: secondaryTextColorSet.normal
+    // The colours of title and names. In a high-contrast theme they follow the row's state, else only whether it is
+    // enabled.
+    property color textPrimaryNormal: enabled ? textColorSet.normal : textColorSet.disabled
+    property color textSecondaryNormal: enabled ? secondaryTextColorSet.normal : secondaryTextColorSet.disabled
     property color textPrimaryNormalHC: textColor
     property color textSecondaryNormalHC: ThemeUtils.getColor(control, secondaryTextColorSet)
     // Whether the row is shown as the current one.
     property bool isCurrentItem: ListView.isCurrentItem
     // The list that the row is as wide as, and that makes it the current row when it is clicked.
     property ListView listView: ListView.view
+    // A list of texts; null is an empty one.
     property var names: []
     // How many names are shown; of the others only the number is.
     property int maximumNames: 3
     readonly property string summary: {
-        const shown = names.slice(0, maximumNames).join(", ");
-        const rest = names.length - maximumNames;
+        const all = names ?? [];
+        const shown = all.slice(0, maximumNames).join(", ");
+        const rest = all.length - maximumNames;
         return rest > 0 ? shown + " +" + rest : shown;
     }
     property string iconName: "users"

@@ -3,9 +3,9 @@ pragma ComponentBehavior: Bound
 // The buttons that have no room elsewhere, as a list that opens below a "more" button. The keyboard moves in it with
 // the arrows; Tab leaves it.
 //
-//     WSvgIconButton {
-//         iconName: "more-horizontal-bold"
-//         onTriggered: overflow.visible ? overflow.close() : overflow.open()
+//     LKRoundButton {
+//         buttonIcon: "more-horizontal-bold"
+//         onClicked: overflow.visible ? overflow.close() : overflow.open()
 //
 //         WButtonsOverflowList {
 //             id: overflow
@@ -76,7 +76,8 @@ WToolTip {
     contentItem: ListView {
         id: list
 
-        readonly property real rowWidth: width - (bar.visible ? bar.width : 0)
+        readonly property real barRoom: bar.visible ? bar.width : 0
+        readonly property real rowWidth: width - barRoom
         readonly property real rowHeight: currentItem ? currentItem.height : control.delegateHeight
 
         // The next row from `start` that can be chosen, in steps of `step`.
@@ -93,6 +94,7 @@ WToolTip {
         implicitHeight: Math.min(contentHeight, control.maximumVisibleRows * rowHeight)
         model: control.wasShown ? control.model : null
         currentIndex: control.currentIndex
+        contentX: bar.mirrored ? -barRoom : 0 // a view keeps its rows at 0 there
         focus: true
         clip: interactive
         interactive: contentHeight > height

@@ -1,7 +1,8 @@
 pragma ComponentBehavior: Bound
 
 // The buttons at the bottom of a dialog: OK, Cancel and one between them. It emits accepted() and rejected(); the
-// button between them only clicked(). A button exists only while it is visible.
+// button between them only clicked(). A button exists only while it is visible. Where the box is too narrow for them
+// the widest ones get narrower.
 //
 //     WDialogButtonBox {
 //         okText: "Save"
@@ -43,30 +44,51 @@ T.DialogButtonBox {
     property WButton okButton: null
     property WButton middleButton: null
     property WButton cancelButton: null
+    readonly property var widths: Array.from({ length: count }, (_, index) => itemAt(index)?.implicitWidth ?? 0)
+    readonly property real gaps: Math.max(0, count - 1) * spacing
+    readonly property real preferredWidth: widths.reduce((sum, width) => sum + width, gaps)
+    readonly property real largestButtonWidth: fittingWidth()
 
-    contentWidth: (contentItem as ListView)?.contentWidth ?? 0
-    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    // The largest width that the buttons may have to have room for all of them.
+    function fittingWidth(): real {
+        let room = availableWidth - gaps;
+        let left = count;
+        for (const width of [...widths].sort((a, b) => a - b)) {
+            if (width * left > room)
+                return Math.max(0, Math.floor(room / left));
+            room -= width;
+            --left;
+        }
+        return Infinity;
+    }
+
+    contentWidth: Math.min(preferredWidth, Math.max(0, availableWidth))
+    implicitWidth: Math.ceil(preferredWidth) + leftPadding + rightPadding
     implicitHeight: Math.ceil(implicitContentHeight) + topPadding + bottomPadding
     padding: 16
     spacing: 8
-    alignment: Qt.AlignRight | Qt.AlignVCenter
+    // By the direction, for the box to place its buttons anew when that changes.
+    alignment: (mirrored ? Qt.AlignLeft | Qt.AlignAbsolute : Qt.AlignRight) | Qt.AlignVCenter
     buttonLayout: T.DialogButtonBox.WinLayout
-    delegate: DialogButton {}
+    delegate: DialogButton {
+        maximumWidth: control.largestButtonWidth
+    }
 
     Accessible.role: Accessible.Grouping
 
     component DialogButton: WButton {
+        property real maximumWidth: Infinity
+
+        width: Math.min(implicitWidth, maximumWidth)
         isRectangle: false
         horizontalPadding: 16
     }
 
     contentItem: ListView {
-        implicitWidth: contentWidth
         model: control.contentModel
         spacing: control.spacing
         orientation: ListView.Horizontal
-        boundsBehavior: Flickable.StopAtBounds
-        interactive: contentWidth > width
+        interactive: false
     }
     background: WRectangle {
         backgroundColorSetName: control.backgroundColorSetName
@@ -77,6 +99,7 @@ T.DialogButtonBox {
         model: control.okVisible ? 1 : 0
 
         DialogButton {
+            maximumWidth: control.largestButtonWidth
             T.DialogButtonBox.buttonRole: T.DialogButtonBox.AcceptRole
             text: control.okText
             enabled: control.okEnabled
@@ -94,6 +117,7 @@ T.DialogButtonBox {
         model: control.middleVisible ? 1 : 0
 
         DialogButton {
+            maximumWidth: control.largestButtonWidth
             T.DialogButtonBox.buttonRole: T.DialogButtonBox.ActionRole
             text: control.middleText
             enabled: control.middleEnabled
@@ -111,6 +135,7 @@ T.DialogButtonBox {
         model: control.cancelVisible ? 1 : 0
 
         DialogButton {
+            maximumWidth: control.largestButtonWidth
             T.DialogButtonBox.buttonRole: T.DialogButtonBox.RejectRole
             text: control.cancelText
             enabled: control.cancelEnabled

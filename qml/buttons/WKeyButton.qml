@@ -25,7 +25,7 @@ WButton {
                             Math.ceil(Math.max(implicitContentWidth, implicitContentHeight)) + 2 * verticalPadding)
     implicitHeight: implicitWidth
     horizontalPadding: 8
-    verticalPadding: 8
+    verticalPadding: 2 // the texts stand in the middle of the circle, where it is wide
     isRectangle: false
     backgroundColorSetName: "button-dialpad-background"
     borderColorSetName: "button-dialpad-border"

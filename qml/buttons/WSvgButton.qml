@@ -61,6 +61,7 @@ WButton {
                 font: control.font
                 color: control.textColor
                 elide: control.elide
+                horizontalAlignment: Text.AlignLeft
                 verticalAlignment: control.verticalAlignment
             }
         }

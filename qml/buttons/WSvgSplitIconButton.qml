@@ -68,11 +68,17 @@ WFrame {
 
             onTriggered: root.leftClicked()
         }
-        WRectangle {
+        Item {
             visible: root.separator
             width: root.horizontalLayout ? 1 : root.splitHeight
             height: root.horizontalLayout ? root.splitHeight : 1
-            backgroundColorSetName: root.separatorColorSetName
+
+            WSeparator {
+                width: root.horizontalLayout ? thickness : parent.width
+                height: root.horizontalLayout ? parent.height : thickness
+                backgroundColorSetName: root.separatorColorSetName
+                Accessible.ignored: true
+            }
         }
         Cell {
             id: right

@@ -30,7 +30,7 @@ Rectangle {
 
     Repeater {
         id: layers
-        model: Math.min(Math.ceil(root.offset), 8)
+        model: Math.max(0, Math.min(Math.ceil(root.offset), 8))
 
         Rectangle {
             required property int index

@@ -29,6 +29,10 @@ FocusScope {
     property var beforeHandlingChangeOfFocus: () => false
     // Internal: the current item, whether or not it has the focus.
     property int currentFocusedIndex: 0
+    // Internal: the first index that the move under way has reached; -1 without a move.
+    property int circleStart: -1
+    // Internal: how many times an item inside is being given the focus, which it may hand on.
+    property int passes: 0
 
     // The index of the current item; -1 without active focus.
     function getCurrentFocusedIndex(): int {
@@ -66,29 +70,21 @@ FocusScope {
     function focusNext() {
         isNavigating = true;
         currentFocusedIndex = Math.max(-1, currentFocusedIndex);
-        const moved = moveToUsable(() => {
+        move(LKFocusManager.FocusReason.Tab, () => {
             if (currentFocusedIndex < count() - 1)
                 return currentFocusedIndex + 1;
             return wrapAround ? 0 : undefined;
         });
-        if (moved === undefined)
-            focusNextAbove(root);
-        else if (moved)
-            forceActiveFocusOnCurrent(LKFocusManager.FocusReason.Tab);
     }
 
     function focusPrevious() {
         isNavigating = true;
         currentFocusedIndex = Math.min(count(), currentFocusedIndex);
-        const moved = moveToUsable(() => {
+        move(LKFocusManager.FocusReason.Backtab, () => {
             if (currentFocusedIndex > 0)
                 return currentFocusedIndex - 1;
             return wrapAround ? count() - 1 : undefined;
         });
-        if (moved === undefined)
-            focusPreviousAbove(root);
-        else if (moved)
-            forceActiveFocusOnCurrent(LKFocusManager.FocusReason.Backtab);
     }
 
     // Moves on in the manager that encloses the item; without one nothing happens.
@@ -199,17 +195,32 @@ FocusScope {
         return -1;
     }
 
-    // Steps until the current item is usable. False when none is, after one circle; undefined when a step leads out.
+    // Steps until the current item is usable and gives it the focus; a step that leads out goes on in the enclosing
+    // manager. An item that is a manager may hand the move back to this one, which then goes on with the same circle.
+    function move(reason: int, step: var) {
+        const begins = circleStart < 0;
+        const moved = moveToUsable(step);
+        if (moved)
+            forceActiveFocusOnCurrent(reason);
+        else if (moved === undefined && reason === LKFocusManager.FocusReason.Tab)
+            focusNextAbove(root);
+        else if (moved === undefined)
+            focusPreviousAbove(root);
+        if (begins)
+            circleStart = -1;
+    }
+
+    // False when no item is usable, after one circle; undefined when a step leads out.
     function moveToUsable(step: var): var {
-        let first;
         for (;;) {
             const next = step();
             if (next === undefined)
                 return undefined;
             currentFocusedIndex = next;
-            if (next === first)
+            if (next === circleStart)
                 return false;
-            first = first ?? next;
+            if (circleStart < 0)
+                circleStart = next;
             reveal(next);
             if (isUsable(itemAt(next)))
                 return true;
@@ -224,13 +235,32 @@ FocusScope {
         takeOverTab(item);
         if (isAFocusManager(item))
             item.focusReason = reason;
+        if (reason === LKFocusManager.FocusReason.Restore)
+            return; // it keeps the focus or gets it back by itself
+        const managers = focusedManagers();
+        for (const manager of managers)
+            ++manager.passes;
         if (reason === LKFocusManager.FocusReason.Tab)
             item.forceActiveFocus(Qt.TabFocusReason);
         else if (reason === LKFocusManager.FocusReason.Backtab)
             item.forceActiveFocus(Qt.BacktabFocusReason);
-        else if (reason === LKFocusManager.FocusReason.Click)
+        else
             item.forceActiveFocus();
-        // An item that is restored keeps the focus or gets it back by itself.
+        for (const manager of managers)
+            --manager.passes;
+        if (activeFocus && !isNavigating)
+            managers.find(manager => manager.getActiveFocusedItem())?.forceActiveFocusOnCurrent(reason);
+    }
+
+    // This manager and those around it that have the focus. When an item that gets the focus hands it on to one behind
+    // them, Qt gives it back to all of them afterwards.
+    function focusedManagers(): var {
+        const managers = [];
+        for (let manager = root; manager; manager = getParentFocusManager(manager)) {
+            if (manager.activeFocus)
+                managers.push(manager);
+        }
+        return managers;
     }
 
     // Without any of its items having it.
@@ -242,6 +272,8 @@ FocusScope {
 
     // The next time the focus comes to the manager and not to what had it last.
     function forgetFocus(item: Item) {
+        if (!item)
+            return;
         item.focus = false;
         for (const child of item instanceof FocusScope ? [] : item.children)
             forgetFocus(child);
@@ -296,6 +328,8 @@ FocusScope {
     Accessible.role: Accessible.Grouping
 
     onActiveFocusChanged: {
+        if (activeFocus && passes > 0)
+            return; // given back by Qt; whoever hands it on takes it away again
         if (activeFocus)
             getParentFocusManager(root)?.forceIndexChainTo(root, focusReason);
         if (beforeHandlingChangeOfFocus())
@@ -306,8 +340,8 @@ FocusScope {
             isNavigating = false;
             focusReason = LKFocusManager.FocusReason.Tab;
             forgetFocus(dummy);
-            if (currentItem())
-                forgetFocus(currentItem());
+            for (const item of isManagingListView() ? [currentItem()] : focusableItems ?? [])
+                forgetFocus(item);
         }
     }
     onFocusableItemsChanged: {

@@ -22,9 +22,15 @@ T.Pane {
     property var backgroundColorSet: themeType === undefined ? null : App.getColorSet(backgroundColorSetName)
     property var borderColorSet: themeType === undefined ? null : App.getColorSet(borderColorSetName)
 
-    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset, contentWidth + leftPadding + rightPadding)
+    // Whole pixels of the screen: the border is as thin on every side.
+    function roundedUp(length: real): real {
+        return Math.ceil(length * Screen.devicePixelRatio) / Screen.devicePixelRatio;
+    }
+
+    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                            roundedUp(contentWidth + leftPadding + rightPadding))
     implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
-                             contentHeight + topPadding + bottomPadding)
+                             roundedUp(contentHeight + topPadding + bottomPadding))
     padding: 12
     font: FontConstants.bodySecondary
 

@@ -6,10 +6,13 @@
 import QtQuick
 
 WRectangle {
+    // Whole pixels of the screen, as many as a border of one pixel: with a fraction the lines would differ.
+    readonly property real thickness: Math.max(1, Math.round(Screen.devicePixelRatio)) / Screen.devicePixelRatio
+
     backgroundColorSetName: "separator-primary"
 
-    implicitWidth: 1
-    implicitHeight: 1
+    implicitWidth: thickness
+    implicitHeight: thickness
 
     Accessible.role: Accessible.Separator
 }

@@ -64,6 +64,11 @@ T.SplitView {
         readonly property bool hovered: T.SplitHandle.hovered
         readonly property bool pressed: T.SplitHandle.pressed
         readonly property color lineColor: ThemeUtils.getColor(control, control.separatorColorSet)
+        // Whole pixels of the screen: the line's thickness, and where the line and the grip stand across.
+        readonly property real thickness: Math.max(1, Math.round(Screen.devicePixelRatio)) / Screen.devicePixelRatio
+        readonly property real gripOffset: Math.round(2 * Screen.devicePixelRatio) / Screen.devicePixelRatio
+        readonly property real lineOffset: Math.ceil((gripOffset + (4 - thickness) / 2) * Screen.devicePixelRatio - 0.5)
+                                           / Screen.devicePixelRatio
 
         // From 1.
         function number(): int {
@@ -119,23 +124,23 @@ T.SplitView {
         Accessible.onDecreaseAction: control.moveHandle(handle, -control.step)
 
         Rectangle {
-            x: handle.isHorizontal ? 3 : 0
-            y: handle.isHorizontal ? 0 : 3
-            width: handle.isHorizontal ? 1 : grip.x - 4
-            height: handle.isHorizontal ? grip.y - 4 : 1
+            x: handle.isHorizontal ? handle.lineOffset : 0
+            y: handle.isHorizontal ? 0 : handle.lineOffset
+            width: handle.isHorizontal ? handle.thickness : grip.x - 4
+            height: handle.isHorizontal ? grip.y - 4 : handle.thickness
             color: handle.lineColor
         }
         Rectangle {
-            x: handle.isHorizontal ? 3 : grip.x + grip.width + 4
-            y: handle.isHorizontal ? grip.y + grip.height + 4 : 3
-            width: handle.isHorizontal ? 1 : handle.width - x
-            height: handle.isHorizontal ? handle.height - y : 1
+            x: handle.isHorizontal ? handle.lineOffset : grip.x + grip.width + 4
+            y: handle.isHorizontal ? grip.y + grip.height + 4 : handle.lineOffset
+            width: handle.isHorizontal ? handle.thickness : handle.width - x
+            height: handle.isHorizontal ? handle.height - y : handle.thickness
             color: handle.lineColor
         }
         Rectangle {
             id: grip
-            x: Math.round((handle.width - width) / 2)
-            y: Math.round((handle.height - height) / 2)
+            x: handle.isHorizontal ? handle.gripOffset : Math.round((handle.width - width) / 2)
+            y: handle.isHorizontal ? Math.round((handle.height - height) / 2) : handle.gripOffset
             width: handle.isHorizontal ? 4 : 24
             height: handle.isHorizontal ? 24 : 4
             radius: 2

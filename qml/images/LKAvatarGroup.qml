@@ -25,7 +25,7 @@ WRectangle {
     // Pixels.
     property int avatarSize: 32
     // From the start of an avatar to that of the next one, pixels.
-    property int avatarOffset: Math.round(avatarSize * 0.85)
+    property int avatarOffset: 4 * Math.ceil(avatarSize * 0.85 / 4)
     // Of all that is shown, pixels.
     readonly property int groupWidth: overflowCount > 0 ? overflowOffset + overflowWidth
                                     : ids.length > 0 ? (ids.length - 1) * avatarOffset + avatarSize : 0
@@ -86,6 +86,9 @@ WRectangle {
                 y: root.ringWidth
                 width: root.avatarSize
                 height: root.avatarSize
+                // Nothing of them is under the ring of the next one.
+                initialsWidth: Math.max(width / 2, Math.min(width * 0.75,
+                                                            2 * (root.avatarOffset - root.ringWidth) - width))
                 controller: root.contact(ring.modelData)
                 Accessible.ignored: true
             }
@@ -94,7 +97,7 @@ WRectangle {
     Loader {
         id: overflow
 
-        x: root.place(root.overflowOffset, width) - root.ringWidth
+        x: root.place(root.overflowOffset, root.overflowWidth) - root.ringWidth
         y: -root.ringWidth
         width: root.overflowWidth + 2 * root.ringWidth
         height: root.avatarSize + 2 * root.ringWidth

@@ -36,6 +36,8 @@ WImage {
     property string displayName: controller?.displayName ?? ""
     // Shown where there is no picture; an icon without them.
     property string initials: controller?.initials ?? initialsOf(displayName)
+    // The room for the initials, pixels; they are made smaller where it is too little.
+    property real initialsWidth: Math.min(width, height) * 0.75
     // "active", "away", "busy", "call", "dnd", "meeting", "on-device", "on-hold", "on-mobile", "ooo", "presenting",
     // "quiet-hours" or "schedule"; no badge without one.
     property string presence: controller?.presence ?? ""
@@ -119,7 +121,7 @@ WImage {
     width: 32
     height: 32
     source: previewSrc !== "" ? previewSrc : controller?.source ?? ""
-    sourceSize: sourceSizeInSteps(64)
+    sourceSizeStep: 64
     fillMode: Image.PreserveAspectCrop
     activeFocusOnTab: allowInteractions
 
@@ -161,8 +163,8 @@ WImage {
             }
             WText {
                 anchors.centerIn: parent
-                width: Math.min(parent.width, parent.height) * 0.75
-                height: width
+                width: root.initialsWidth
+                height: Math.min(parent.width, parent.height) * 0.75
                 text: root.initials
                 controlsTarget: root
                 textColorSetName: root.textColorSetName

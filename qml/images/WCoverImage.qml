@@ -41,7 +41,7 @@ Item {
         width: root.width
         height: root.height
         source: root.image
-        sourceSize: sourceSizeInSteps(128)
+        sourceSizeStep: 128
         asynchronous: true
         retainWhileLoading: true
         fillMode: Image.PreserveAspectCrop

@@ -25,9 +25,11 @@ WFrame {
     property string textColorSetName: "label-primary-text"
     property font font: FontConstants.bodySecondary
     readonly property bool hasGif: gifSource.toString() !== ""
+    readonly property real gifSpace: (hasGif ? gifWidth : 0) + (hasGif && text !== "" ? padding : 0)
 
-    implicitWidth: 2 * padding + (hasGif ? gifWidth : 0) + (hasGif && text !== "" ? padding : 0)
-                   + Math.ceil(label.implicitWidth)
+    // Whole pixels of the screen: the border is as thin on every side.
+    implicitWidth: Math.ceil((2 * padding + gifSpace + label.implicitWidth) * Screen.devicePixelRatio)
+                   / Screen.devicePixelRatio
     implicitHeight: 2 * padding + Math.max(hasGif ? gifHeight : 0, Math.ceil(label.implicitHeight))
     radius: 4
 

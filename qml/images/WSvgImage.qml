@@ -8,11 +8,7 @@
 //     }
 import QtQuick
 
+// `svgName` is the template's; without a name nothing is shown.
 WImage {
-    // Without a name nothing is shown.
-    property string svgName: ""
-
-    source: svgName === "" ? "" : "qrc:/Resources/" + svgName + ".svg"
-    sourceSize: Qt.size(width, height)
     fillMode: Image.PreserveAspectFit
 }

@@ -143,14 +143,20 @@ WRectangle {
         Loader {
             active: root.moreButtonIsVisible
             visible: active
-            sourceComponent: WSvgIconButton {
+            sourceComponent: LKRoundButton {
                 id: moreButton
 
-                implicitHeight: 28
-                iconName: "more-horizontal-bold"
-                tooltip: root.moreButtonTooltipText
+                buttonIcon: "more-horizontal-bold"
+                buttonStyle: LKButtonStyle.Ghost
+                buttonSize: LKButtonSize.XS
                 enabled: root.moreButtonIsEnabled
-                onTriggered: root.moreButtonClicked(moreButton)
+                onClicked: root.moreButtonClicked(moreButton)
+
+                Accessible.name: root.moreButtonTooltipText
+
+                ToolTipTrigger {
+                    text: root.moreButtonTooltipText
+                }
             }
         }
     }

@@ -55,7 +55,9 @@ T.TabButton {
     }
 
     width: implicitWidth
-    implicitWidth: Math.max(implicitHeight, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
+    // Whole pixels of the screen: the tabs stand one beside the other.
+    implicitWidth: Math.max(implicitHeight, Math.ceil((implicitContentWidth + leftPadding + rightPadding)
+                                                      * Screen.devicePixelRatio) / Screen.devicePixelRatio)
     implicitHeight: Math.max(32, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
     horizontalPadding: text === "" && badgeText === "" ? 8 : 12
     verticalPadding: 4

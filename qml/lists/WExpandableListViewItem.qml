@@ -6,7 +6,7 @@
 //         nextSibVisualFocusItem: visualFocusItem === row ? callButton : null
 //         prevSibVisualFocusItem: visualFocusItem === row ? null : row
 //
-//         WSvgIconButton {
+//         LKRoundButton {
 //             id: callButton
 //             focusPolicy: Qt.NoFocus
 //         }

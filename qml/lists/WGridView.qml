@@ -23,7 +23,7 @@ GridView {
     implicitWidth: 3 * cellWidth + bar.width
     implicitHeight: Math.min(contentHeight, 3 * cellHeight)
     keyNavigationEnabled: true
-    activeFocusOnTab: count > 0
+    activeFocusOnTab: count > 0 || activeFocus // it stays one until the focus goes
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     highlightMoveDuration: 0
@@ -38,7 +38,7 @@ GridView {
 
     Accessible.role: Accessible.List
 
-    DScrollBar {
+    LKScrollBar {
         id: bar
     }
     WScrollHelper {

@@ -63,7 +63,7 @@ RowLayout {
         Layout.fillHeight: true
         interactive: root.scrollable
         keyNavigationEnabled: true
-        activeFocusOnTab: count > 0
+        activeFocusOnTab: count > 0 || activeFocus // it stays one until the focus goes
         boundsBehavior: Flickable.StopAtBounds
         clip: root.scrollable
         highlightMoveDuration: 0
@@ -110,10 +110,12 @@ RowLayout {
             colorSetName: root.focusColorSetName
         }
     }
-    DScrollBar {
+    LKScrollBar {
         id: bar
 
         Layout.fillHeight: true
+        // Its room stays free, so that nothing moves when it appears.
         visible: root.scrollable && policy !== T.ScrollBar.AlwaysOff
+        opacity: policy === T.ScrollBar.AlwaysOn || size < 1 ? 1 : 0
     }
 }

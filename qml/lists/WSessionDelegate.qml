@@ -7,6 +7,7 @@
 //     }
 import QtQuick
 import LumakitQml 1.0
+import "ThemeUtils.js" as ThemeUtils
 
 WExpandableListViewItem {
     id: root
@@ -57,6 +58,7 @@ WExpandableListViewItem {
         svgName: root.expanded ? "chevron-down-bold"
                : LayoutMirroring.enabled ? "chevron-left-bold" : "chevron-right-bold"
         svgColorSetName: root.iconColorSetName
+        svgColor: ThemeUtils.getColor(root, icon.svgColorSet)
     }
     WText {
         id: label

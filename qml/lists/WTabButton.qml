@@ -33,7 +33,9 @@ T.TabButton {
     readonly property var uncheckedState: ({ enabled: enabled, pressed: pressed, hovered: hovered })
 
     width: implicitWidth
-    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    // Whole pixels of the screen: the tabs stand one beside the other.
+    implicitWidth: Math.ceil((implicitContentWidth + leftPadding + rightPadding) * Screen.devicePixelRatio)
+                   / Screen.devicePixelRatio
     implicitHeight: Math.max(40, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
     horizontalPadding: 12
     verticalPadding: 4
@@ -74,8 +76,8 @@ T.TabButton {
             x: control.leftPadding
             y: parent.height - height
             width: control.availableWidth
-            height: 2
-            radius: 1
+            height: Math.round(2 * Screen.devicePixelRatio) / Screen.devicePixelRatio
+            radius: height / 2
             visible: control.checked
             color: ThemeUtils.getColor({ enabled: control.enabled }, control.underlineColorSet)
         }

@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 // A list of entries to choose from, in a balloon with an arrow, for popups. It is as wide as its widest entry needs.
-// The arrows, Home, End, PageUp and PageDown move in it, and so do the first letters of an entry.
+// The arrows move round it, Home, End, PageUp and PageDown in it, and so do the first letters of an entry.
 //
 //     LKMenu {
 //         model: [
@@ -17,6 +17,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Corvane 1.0
 import LumakitQml 1.0
+import LumakitQml.Private 1.0
 import "ThemeUtils.js" as ThemeUtils
 
 T.Pane {
@@ -75,16 +76,24 @@ T.Pane {
         return all;
     }
 
-    // Makes the first entry from `start` that can be chosen, in steps of `step`, the current one.
+    // Makes the first entry that can be chosen the current one, from `start`, at least -1, in steps of `step`, round the
+    // ends.
     function moveFrom(start: int, step: int): void {
-        for (let i = start; i >= 0 && i < modelCount; i += step) {
-            if (canBeChosen(entryAt(i))) {
-                list.currentIndex = i;
+        for (let i = 0; i < modelCount; ++i) {
+            const index = (start + i * step + modelCount) % modelCount;
+            if (canBeChosen(entryAt(index))) {
+                list.currentIndex = index;
                 if (list.activeFocus)
                     list.currentItem.forceActiveFocus(Qt.TabFocusReason);
                 return;
             }
         }
+    }
+
+    function moveToTyped(letter: string): void {
+        const index = typeAhead.find(letter, texts(), currentIndex);
+        if (index >= 0)
+            moveFrom(index, 1);
     }
 
     function measure(): void {
@@ -105,6 +114,7 @@ T.Pane {
 
     onFontChanged: Qt.callLater(measure)
     onModelChanged: Qt.callLater(measure)
+    onVisibleChanged: visible ? FocusReturn.remember(control) : FocusReturn.giveBack(control)
 
     Keys.onPressed: event => {
         const page = Math.max(1, maxListItemSize - 1);
@@ -115,24 +125,24 @@ T.Pane {
             moveFrom(current + 1, 1);
             break;
         case Qt.Key_Up:
-            moveFrom(current < 0 ? modelCount - 1 : current - 1, -1);
+            moveFrom(Math.max(0, current) - 1, -1);
             break;
         case Qt.Key_Home:
             moveFrom(0, 1);
             break;
         case Qt.Key_End:
-            moveFrom(modelCount - 1, -1);
+            moveFrom(-1, -1);
             break;
         case Qt.Key_PageUp:
-            moveFrom(Math.max(0, current - page), current - page > 0 ? -1 : 1);
+            moveFrom(Math.max(0, current - page), 1);
             break;
         case Qt.Key_PageDown:
-            moveFrom(Math.min(modelCount - 1, current + page), current + page < modelCount - 1 ? 1 : -1);
+            moveFrom(Math.min(modelCount - 1, current + page), -1);
             break;
         default:
             event.accepted = typeAhead.accepts(event);
             if (event.accepted)
-                moveFrom(typeAhead.find(event.text, texts(), current), modelCount);
+                moveToTyped(event.text);
         }
     }
 
@@ -145,6 +155,7 @@ T.Pane {
 
         implicitHeight: Math.min(contentHeight, control.maxListItemSize * rowHeight)
         currentIndex: -1
+        contentX: control.mirrored ? -scrollBar.width : 0 // a view keeps its rows at 0 there
         focus: true
         activeFocusOnTab: true
         interactive: contentHeight > height
@@ -237,7 +248,7 @@ T.Pane {
 
         font: control.font
     }
-    LKContextMenu.TypeAhead {
+    WMenu.TypeAhead {
         id: typeAhead
     }
 }

@@ -1,8 +1,8 @@
 // A balloon that explains the item it is declared in, until the user closes it.
 //
-//     WSvgIconButton {
+//     LKRoundButton {
 //         id: whiteboard
-//         iconName: "whiteboard"
+//         buttonIcon: "whiteboard"
 //
 //         WCoachmark {
 //             titleText: "Whiteboard"
@@ -14,6 +14,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import LumakitQml 1.0
+import LumakitQml.Private 1.0
 
 WToolTip {
     id: control
@@ -54,7 +55,11 @@ WToolTip {
     focus: acquireFocusWhenShown
     closePolicy: T.Popup.NoAutoClose
 
-    onAboutToShow: closedByKey = false
+    onAboutToShow: {
+        FocusReturn.remember(contentItem.parent);
+        closedByKey = false;
+    }
+    onAboutToHide: FocusReturn.giveBack(contentItem.parent)
 
     contentItem: FocusScope {
         implicitWidth: Math.max(title.implicitWidth, body.implicitWidth) + button.width + 8

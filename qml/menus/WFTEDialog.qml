@@ -15,6 +15,7 @@ import QtQuick
 import QtQuick.Layouts
 import Corvane 1.0
 import LumakitQml 1.0
+import LumakitQml.Private 1.0
 
 WToolTip.Balloon {
     id: root
@@ -77,6 +78,8 @@ WToolTip.Balloon {
     lineColor: borderColorSet.normal
     fillColor: backgroundColorSet.normal
 
+    onVisibleChanged: visible ? FocusReturn.remember(root) : FocusReturn.giveBack(root)
+
     Accessible.role: Accessible.Dialog
     Accessible.name: titleText
     Accessible.description: messageText
@@ -136,9 +139,9 @@ WToolTip.Balloon {
                 Layout.maximumWidth: content.width
                 visible: active
                 active: root.hyperLinkButtonText !== ""
-                sourceComponent: WHyperlink {
+                sourceComponent: LKHyperlinkButton {
                     text: root.hyperLinkButtonText
-                    onTriggered: root.hyperLinkButtonClicked()
+                    onClicked: root.hyperLinkButtonClicked()
                 }
             }
             // Below each other where they do not fit beside each other.
@@ -157,13 +160,12 @@ WToolTip.Balloon {
                     Layout.alignment: Qt.AlignRight
                     visible: active
                     active: root.leftPillButtonText !== ""
-                    sourceComponent: WPillButton {
+                    sourceComponent: LKPillButton {
                         text: root.leftPillButtonText
                         enabled: root.leftPillButtonEnabled
-                        backgroundColorSetName: "button-secondary-background"
-                        borderColorSetName: "button-secondary-border"
-                        textColorSetName: "button-secondary-text"
-                        onTriggered: root.leftPillButtonClicked()
+                        buttonStyle: LKButtonStyle.Secondary
+                        buttonSize: LKButtonSize.M
+                        onClicked: root.leftPillButtonClicked()
                     }
                 }
                 Loader {
@@ -173,10 +175,11 @@ WToolTip.Balloon {
                     Layout.alignment: Qt.AlignRight
                     visible: active
                     active: root.rightPillButtonText !== ""
-                    sourceComponent: WPillButton {
+                    sourceComponent: LKPillButton {
                         text: root.rightPillButtonText
                         enabled: root.rightPillButtonEnabled
-                        onTriggered: root.rightPillButtonClicked()
+                        buttonSize: LKButtonSize.M
+                        onClicked: root.rightPillButtonClicked()
                     }
                 }
             }

@@ -1,6 +1,5 @@
-pragma ComponentBehavior: Bound
-
-// A menu, as wide as its widest entry needs. A menu in it is a submenu; one that is higher than the window scrolls.
+// A menu, as wide as its widest entry needs. A menu in it is a submenu; one that is higher than the window scrolls. The
+// arrows move round it, Home, End, PageUp and PageDown to its ends, and the first letters of an entry to that.
 //
 //     WMenu {
 //         id: menu
@@ -14,6 +13,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Corvane 1.0
+import LumakitQml.Private 1.0
 import "ThemeUtils.js" as ThemeUtils
 
 T.Menu {
@@ -31,6 +31,37 @@ T.Menu {
     property var themeType: App.themeMode
     property var backgroundColorSet: themeType === undefined ? null : App.getColorSet(backgroundColorSetName)
     property var backgroundBolderColorSet: themeType === undefined ? null : App.getColorSet(backgroundBolderColorSetName)
+    readonly property TypeAhead typeAhead: TypeAhead {}
+
+    // What is typed: the letters that follow each other within a second; for the library's other lists too.
+    component TypeAhead: Timer {
+        property string typed: ""
+
+        // The first of the texts, from the current one on, that begins with what has been typed; the next one where
+        // the same letter is typed again; -1 if none does.
+        function find(letter: string, texts: var, current: int): int {
+            typed = typed === letter ? letter : typed + letter;
+            restart();
+            const start = typed === letter ? current + 1 : Math.max(0, current);
+            const wanted = typed.toLocaleLowerCase();
+            for (let i = 0; i < texts.length; ++i) {
+                const index = (start + i) % texts.length;
+                if (texts[index].toLocaleLowerCase().startsWith(wanted))
+                    return index;
+            }
+            return -1;
+        }
+
+        // Whether the key continues or begins a word; Space triggers the entry.
+        function accepts(event: KeyEvent): bool {
+            const modifiers = event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier);
+            return modifiers === Qt.NoModifier && /^[^\x00-\x20\x7f]/.test(event.text);
+        }
+
+        interval: 1000
+
+        onTriggered: typed = ""
+    }
 
     function widestEntry(): real {
         let widest = 0;
@@ -39,15 +70,33 @@ T.Menu {
         return widest;
     }
 
-    // Highlights the first entry that takes the focus, from `start` in steps of `step`.
-    function highlightFrom(start: int, step: int): void {
-        for (let i = start; i >= 0 && i < count; i += step) {
-            const entry = itemAt(i);
-            if (entry.visible && entry.enabled && entry.focusPolicy !== Qt.NoFocus) {
-                currentIndex = i;
+    // The texts of the entries, empty where one cannot be chosen.
+    function texts(): list<string> {
+        const all = [];
+        for (let i = 0; i < count; ++i)
+            all.push(takesFocus(itemAt(i)) ? (itemAt(i) as T.MenuItem)?.text ?? "" : "");
+        return all;
+    }
+
+    function takesFocus(entry: Item): bool {
+        return entry.visible && entry.enabled && (entry as T.Control)?.focusPolicy !== Qt.NoFocus;
+    }
+
+    // Gives the focus to the first entry that takes it, from `start`, at least -1, in steps of `step`, round the ends.
+    function moveFrom(start: int, step: int): void {
+        for (let i = 0; i < count; ++i) {
+            const entry = itemAt((start + i * step + count) % count);
+            if (takesFocus(entry)) {
+                entry.forceActiveFocus(Qt.TabFocusReason);
                 return;
             }
         }
+    }
+
+    function moveToTyped(letter: string): void {
+        const index = typeAhead.find(letter, texts(), currentIndex);
+        if (index >= 0)
+            moveFrom(index, 1);
     }
 
     // A popup does not inherit the direction of what it is declared in.
@@ -66,9 +115,11 @@ T.Menu {
     delegate: WMenuItem {}
 
     onAboutToShow: {
+        FocusReturn.remember(contentItem.parent);
         takeDirection();
         contentItem.parent.Accessible.name = Qt.binding(() => title);
     }
+    onAboutToHide: FocusReturn.giveBack(contentItem.parent)
 
     contentItem: ListView {
         implicitHeight: contentHeight
@@ -81,13 +132,27 @@ T.Menu {
         keyNavigationEnabled: false // the menu does it
 
         Keys.onPressed: event => {
-            if (event.key === Qt.Key_Home || event.key === Qt.Key_PageUp)
-                control.highlightFrom(0, 1);
-            else if (event.key === Qt.Key_End || event.key === Qt.Key_PageDown)
-                control.highlightFrom(control.count - 1, -1);
-            else
-                return;
             event.accepted = true;
+            switch (event.key) {
+            case Qt.Key_Down:
+                control.moveFrom(control.currentIndex + 1, 1);
+                break;
+            case Qt.Key_Up:
+                control.moveFrom(Math.max(0, control.currentIndex) - 1, -1);
+                break;
+            case Qt.Key_Home:
+            case Qt.Key_PageUp:
+                control.moveFrom(0, 1);
+                break;
+            case Qt.Key_End:
+            case Qt.Key_PageDown:
+                control.moveFrom(-1, -1);
+                break;
+            default:
+                event.accepted = control.typeAhead.accepts(event);
+                if (event.accepted)
+                    control.moveToTyped(event.text);
+            }
         }
     }
     background: Rectangle {

@@ -53,8 +53,14 @@ T.MenuItem {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    // Return and Enter click as Space does; a key that is held down does so once.
+    Keys.onPressed: event => {
+        const isReturn = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
+        event.accepted = isReturn || event.key === Qt.Key_Space && event.isAutoRepeat;
+        if (isReturn && !event.isAutoRepeat)
+            click();
+    }
+    Keys.onReleased: event => event.accepted = event.key === Qt.Key_Space && event.isAutoRepeat
 
     Accessible.role: Accessible.MenuItem
     Accessible.name: text

@@ -14,6 +14,7 @@ import QtQml.Models
 import QtQuick
 import Corvane 1.0
 import LumakitQml 1.0
+import LumakitQml.Private 1.0
 import "ThemeUtils.js" as ThemeUtils
 
 FocusScope {
@@ -75,6 +76,8 @@ FocusScope {
                    + (content.arrowLeft + content.arrowRight)
     implicitHeight: visibleItems * rowHeight + 2 * padding + (hasHeader ? headerHeight : 0)
                     + (content.arrowTop + content.arrowBottom)
+
+    onVisibleChanged: visible ? FocusReturn.remember(root) : FocusReturn.giveBack(root)
 
     Accessible.role: Accessible.List
     Accessible.name: headerText

@@ -7,7 +7,6 @@
 //         onToggled: settings.joinsMuted = checked
 //     }
 import QtQuick
-import "ThemeUtils.js" as ThemeUtils
 
 WCheckBox {
     id: control
@@ -25,7 +24,7 @@ WCheckBox {
         text: control.text
         textFormat: Text.PlainText
         font: control.font
-        color: ThemeUtils.getColor(control.indicator, control.textColorSet)
+        color: control.textColors.color
         wrapMode: control.autoWrapMode
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignLeft

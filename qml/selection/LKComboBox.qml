@@ -12,7 +12,7 @@ WComboBox {
 
     // The accessible name: what is chosen here.
     property string accessibleText: ""
-    readonly property LKContextMenu.TypeAhead typeAhead: LKContextMenu.TypeAhead {}
+    readonly property WMenu.TypeAhead typeAhead: WMenu.TypeAhead {}
 
     function findTyped(letter: string): void {
         const texts = Array.from({ length: count }, (_, row) => textAt(row));

@@ -118,10 +118,14 @@ T.RadioButton {
             if (!event.isAutoRepeat)
                 click();
             break;
+        case Qt.Key_Space: // one that is held down clicks once
+            event.accepted = event.isAutoRepeat;
+            break;
         default:
             event.accepted = false;
         }
     }
+    Keys.onReleased: event => event.accepted = event.key === Qt.Key_Space && event.isAutoRepeat
 
     Accessible.name: accessibleText !== "" ? accessibleText : text !== "" ? text : tooltip
     Accessible.onPressAction: click()
@@ -135,7 +139,8 @@ T.RadioButton {
         readonly property bool hovered: control.hovered
 
         x: control.mirrored ? control.width - width - control.rightPadding : control.leftPadding
-        y: control.topPadding + Math.round((control.availableHeight - height) / 2)
+        y: Math.round((control.topPadding + (control.availableHeight - height) / 2) * Screen.devicePixelRatio)
+           / Screen.devicePixelRatio
         implicitWidth: control.radioButtonSize
         implicitHeight: control.radioButtonSize
         radius: height / 2

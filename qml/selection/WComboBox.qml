@@ -146,7 +146,7 @@ T.ComboBox {
         readonly property bool isChosen: control.currentIndex === index
         readonly property var entry: model.modelData ?? model
 
-        width: list.rowWidth
+        width: list.width - list.barRoom
         implicitHeight: Math.max(32, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
         leftPadding: mirrored && control.tickEnabled ? 32 : 8
         rightPadding: !mirrored && control.tickEnabled ? 32 : 8
@@ -210,10 +210,11 @@ T.ComboBox {
         contentItem: ListView {
             id: list
 
-            readonly property real rowWidth: width - (bar.visible ? bar.width : 0)
+            readonly property real barRoom: bar.visible ? bar.width : 0
 
             model: control.delegateModel
             currentIndex: control.highlightedIndex
+            contentX: bar.mirrored ? -barRoom : 0 // a view keeps its rows at 0 there
             clip: interactive
             interactive: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds

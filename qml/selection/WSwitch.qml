@@ -42,14 +42,14 @@ T.Switch {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
 
-    Keys.onReturnPressed: event => {
-        if (!event.isAutoRepeat)
+    // Return and Enter click as Space does; a key that is held down does so once.
+    Keys.onPressed: event => {
+        const isReturn = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
+        event.accepted = isReturn || event.key === Qt.Key_Space && event.isAutoRepeat;
+        if (isReturn && !event.isAutoRepeat)
             click();
     }
-    Keys.onEnterPressed: event => {
-        if (!event.isAutoRepeat)
-            click();
-    }
+    Keys.onReleased: event => event.accepted = event.key === Qt.Key_Space && event.isAutoRepeat
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: text === "" ? tooltip : text
@@ -64,7 +64,8 @@ T.Switch {
         readonly property bool hovered: control.hovered
 
         x: control.mirrored ? control.width - width - control.rightPadding : control.leftPadding
-        y: control.topPadding + Math.round((control.availableHeight - height) / 2)
+        y: Math.round((control.topPadding + (control.availableHeight - height) / 2) * Screen.devicePixelRatio)
+           / Screen.devicePixelRatio
         implicitWidth: control.backgroundWidth
         implicitHeight: control.backgroundHeight
         radius: height / 2

@@ -6,24 +6,19 @@
 //         textColorSetName: "label-secondary-text"
 //     }
 import QtQuick
-import QtQuick.Templates as T
-import Corvane 1.0
 import LumakitQml 1.0
-import "ThemeUtils.js" as ThemeUtils
+import LumakitQml.Private 1.0
 
-T.Label {
+LabelTemplate {
     id: control
 
-    property string textColorSetName: "label-primary-text"
-    property var themeType: App.themeMode
-    property var textColorSet: themeType === undefined ? null : App.getColorSet(textColorSetName)
+    property alias textColorSetName: control.textColors.colorSetName
+    property alias themeType: control.textColors.themeType
+    property alias textColorSet: control.textColors.colorSet
 
-    color: ThemeUtils.getColor(control, textColorSet)
+    textColors.colorSetName: "label-primary-text"
     font: FontConstants.bodySecondary
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
     elide: Text.ElideRight
-
-    Accessible.role: Accessible.StaticText
-    Accessible.name: text
 }

@@ -116,6 +116,10 @@ RowLayout {
         oldLabelText = labelText;
         forceActiveFocus();
     }
+    onIsReadOnlyChanged: {
+        if (isInEditMode && isReadOnly)
+            cancel();
+    }
     onActiveFocusChanged: {
         if (isInEditMode && !activeFocus)
             finish();

@@ -73,9 +73,13 @@ T.Control {
         readonly property bool isScrolling: fullHeight > height && height > 0
 
         function paste(): void {
-            const wanted = control.fitting(Utils.pasteFromClipboard(Utils.RichText, Utils.Clipboard));
+            const wanted = control.fitting(clipboardText());
             remove(selectionStart, selectionEnd);
             insert(cursorPosition, wanted);
+        }
+
+        function clipboardText(): string {
+            return Utils.pasteFromClipboard(Utils.RichText, Utils.Clipboard);
         }
 
         // AltGr is Ctrl and Alt.
@@ -88,6 +92,7 @@ T.Control {
         anchors.fill: parent
         anchors.bottomMargin: counter.active ? counter.height + 4 : 0
         font: control.font
+        themeType: control.themeType
         tabChangesFocus: true
 
         onTextChanged: control.cutOff()
@@ -96,7 +101,8 @@ T.Control {
         Keys.onPressed: event => {
             if (readOnly || !control.isLimited)
                 return;
-            const isPaste = event.matches(StandardKey.Paste);
+            // What fits is pasted as usual: it is undone by itself.
+            const isPaste = event.matches(StandardKey.Paste) && clipboardText() !== control.fitting(clipboardText());
             if (isPaste)
                 paste();
             if (isPaste || writes(event) && control.fitting(event.text) === "")

@@ -29,7 +29,7 @@ WTextArea {
             menu.popup(control, x, y);
     }
 
-    stateItem: controlsTarget ?? control
+    stateItem: controlsTarget
 
     onContextMenuChanged: {
         menu?.destroy();

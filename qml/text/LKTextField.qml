@@ -89,6 +89,7 @@ T.Control {
         leftPadding: control.mirrored ? control.buttonRoom : control.iconRoom
         rightPadding: control.mirrored ? control.iconRoom : control.buttonRoom
         font: control.font
+        themeType: control.themeType
         echoMode: control.isPasswordInput && !control.isPasswordVisible ? TextInput.Password : TextInput.Normal
         inputMethodHints: control.isPasswordInput ? Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
                                                   : Qt.ImhNone

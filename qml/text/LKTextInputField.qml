@@ -58,6 +58,7 @@ Item {
             visible: active
             sourceComponent: LKLabelBase {
                 text: root.titleText
+                themeType: root.themeType
                 textColorSetName: root.titleColorSetName
                 font: FontConstants.subheaderSecondary
                 wrapMode: Text.Wrap
@@ -72,6 +73,7 @@ Item {
         LKTextField {
             id: input
             width: parent.width
+            themeType: root.themeType
             leftIcon: "search"
             isLeftIconVisible: root.searchIconVisible
             accessibleName: root.accessibleName
@@ -86,6 +88,7 @@ Item {
             visible: active
             sourceComponent: LKLabelBase {
                 text: root.infoTest
+                themeType: root.themeType
                 textColorSetName: root.infoColorSetName
                 font: FontConstants.bodyTertiary
                 wrapMode: Text.Wrap

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 // A line of text to edit, in a frame, that can be flicked sideways where it is longer than the frame; the cursor stays
 // in sight.
 //
@@ -50,6 +52,18 @@ Flickable {
         color: edit.stateColor(edit.backgroundColorSet)
         border.width: edit.borderColorSetName === "" ? 0 : edit.borderWidth
         border.color: edit.stateColor(edit.borderColorSet)
+    }
+    // The frame once more, over the text that is flicked under it.
+    Loader {
+        parent: root
+        anchors.fill: parent
+        active: root.interactive
+        sourceComponent: Rectangle {
+            radius: edit.radius
+            color: "transparent"
+            border.width: edit.borderColorSetName === "" ? 0 : edit.borderWidth
+            border.color: edit.stateColor(edit.borderColorSet)
+        }
     }
     FocusRing {
         target: edit

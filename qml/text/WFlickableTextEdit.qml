@@ -18,11 +18,12 @@ Flickable {
     property string accessibleText: ""
 
     function showCursor(): void {
-        const cursor = edit.cursorRectangle;
-        if (cursor.y < contentY)
-            contentY = cursor.y;
-        else if (cursor.y + cursor.height > contentY + height)
-            contentY = Math.max(0, cursor.y + cursor.height - height);
+        const top = edit.cursorRectangle.y - edit.padding;
+        const bottom = edit.cursorRectangle.y + edit.cursorRectangle.height + edit.padding;
+        if (top < contentY)
+            contentY = top;
+        else if (bottom > contentY + height)
+            contentY = Math.max(0, bottom - height);
     }
 
     // Moves the cursor by a page: 1 down, -1 up.

@@ -6,30 +6,21 @@
 //         textColorSetName: "label-secondary-text"
 //     }
 import QtQuick
-import QtQuick.Templates as T
-import Corvane 1.0
 import LumakitQml 1.0
 import LumakitQml.Private 1.0
-import "ThemeUtils.js" as ThemeUtils
 
-T.Label {
+// The template has `toolTipText`.
+LabelTemplate {
     id: control
 
     // The control whose state picks the colour; this label itself if null.
-    property var controlsTarget: null
-    property string textColorSetName: "label-primary-text"
-    // Shown when the cursor rests on the label; its accessible name where it has no text.
-    property string toolTipText: ""
-    property var themeType: App.themeMode
-    property var textColorSet: themeType === undefined ? null : App.getColorSet(textColorSetName)
+    property alias controlsTarget: control.textColors.target
+    property alias textColorSetName: control.textColors.colorSetName
+    property alias themeType: control.textColors.themeType
+    property alias textColorSet: control.textColors.colorSet
 
-    color: ThemeUtils.getColor(controlsTarget ?? control, textColorSet)
+    textColors.colorSetName: "label-primary-text"
     font: FontConstants.bodySecondary
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
-
-    onToolTipTextChanged: ToolTips.set(control, toolTipText)
-
-    Accessible.role: Accessible.StaticText
-    Accessible.name: text === "" ? toolTipText : text
 }

@@ -26,8 +26,8 @@ T.TextArea {
     property var placeholderTextColorSet: themeType === undefined ? null : App.getColorSet(placeholderTextColorName)
     property var backgroundColorSet: themeType === undefined ? null : App.getColorSet(backgroundColorSetName)
     property var borderColorSet: themeType === undefined ? null : App.getColorSet(borderColorSetName)
-    // The control whose state picks the colours.
-    property Item stateItem: control
+    // The control whose state picks the colours; this area itself if null.
+    property Item stateItem: null
     // The frame's corners, pixels.
     property real radius: 4
     property int borderWidth: 1
@@ -40,7 +40,7 @@ T.TextArea {
     property real scrollY: 0
 
     function stateColor(colorSet: var): color {
-        return colorSet?.isValid ? ThemeUtils.getTextFieldColor(stateItem, colorSet) : "transparent";
+        return colorSet?.isValid ? ThemeUtils.getTextFieldColor(stateItem ?? control, colorSet) : "transparent";
     }
 
     // Scrolls by that much, but not out of the text.

@@ -70,6 +70,11 @@ WTextEdit {
         return current >= 0;
     }
 
+    function activateByKey(event: KeyEvent): void {
+        if (!event.isAutoRepeat)
+            activateCurrentLink();
+    }
+
     function activateCurrentLink(): void {
         if (current < 0)
             goToLink(1);
@@ -94,9 +99,9 @@ WTextEdit {
 
     Keys.onTabPressed: event => event.accepted = goToLink(1)
     Keys.onBacktabPressed: event => event.accepted = goToLink(-1)
-    Keys.onReturnPressed: activateCurrentLink()
-    Keys.onEnterPressed: activateCurrentLink()
-    Keys.onSpacePressed: activateCurrentLink()
+    Keys.onReturnPressed: event => activateByKey(event)
+    Keys.onEnterPressed: event => activateByKey(event)
+    Keys.onSpacePressed: event => activateByKey(event)
 
     Accessible.role: Accessible.Link
     Accessible.name: length === 0 ? tooltip : getText(0, length)

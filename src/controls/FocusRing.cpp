@@ -64,6 +64,14 @@ FocusRing::~FocusRing()
     delete m_ring;
 }
 
+FocusRing *FocusRing::create(QQuickItem *target, QFocusEvent *event)
+{
+    auto *ring = new FocusRing(target);
+    ring->setTarget(target);
+    ring->eventFilter(target, event);
+    return ring;
+}
+
 QQuickItem *FocusRing::target() const
 {
     return m_target;
@@ -211,6 +219,6 @@ void FocusRing::updateRing()
     m_ring->setPosition({-margin, -margin});
     m_ring->setSize(inner + QSizeF(2 * margin, 2 * margin));
     static_cast<RingItem *>(m_ring.data())
-        ->setRing(WThemeUtils::getColorSet(m_colorSetName.toStdString()).normal,
+        ->setRing(WThemeUtils::findColorSet(m_colorSetName).normal,
                   std::max(0.0, m_radius + m_offset + Thickness / 2));
 }

@@ -6,6 +6,8 @@
 #include <QQuickItem>
 #include <QQuickPaintedItem>
 
+class QFocusEvent;
+
 /// Draws a ring outside a control while that has the focus by the keyboard. Without the focus there is no item.
 class FocusRing : public QObject, public QQmlParserStatus
 {
@@ -26,6 +28,9 @@ class FocusRing : public QObject, public QQmlParserStatus
 public:
     explicit FocusRing(QObject *parent = nullptr);
     ~FocusRing() override;
+
+    /// A ring for an item that has not needed one before it got this event.
+    static FocusRing *create(QQuickItem *target, QFocusEvent *event);
 
     QQuickItem *target() const;
     void setTarget(QQuickItem *target);

@@ -4,6 +4,8 @@
 
 #include <QFocusEvent>
 
+#include <QtQuick/private/qquicktext_p.h>
+
 #include <chrono>
 
 using namespace std::chrono_literals;
@@ -48,8 +50,10 @@ void ToolTipTrigger::setTarget(QQuickItem *target)
     if (target == m_target)
         return;
     hide();
-    if (m_target && m_watching)
+    if (m_target && m_watching) {
         m_target->removeEventFilter(this);
+        m_target->disconnect(this);
+    }
     m_watching = false;
     m_target = target;
     watch();
@@ -102,8 +106,18 @@ void ToolTipTrigger::watch()
     if (m_watching || !m_target || m_text.isEmpty())
         return;
     m_watching = true;
-    m_target->setAcceptHoverEvents(true);
+    acceptHover();
     m_target->installEventFilter(this);
+    // A text takes hover events for its links only, and decides that anew with every text and when it is complete.
+    QMetaObject::invokeMethod(this, &ToolTipTrigger::acceptHover, Qt::QueuedConnection);
+    if (const auto *text = qobject_cast<QQuickText *>(m_target))
+        connect(text, &QQuickText::textChanged, this, &ToolTipTrigger::acceptHover);
+}
+
+void ToolTipTrigger::acceptHover()
+{
+    if (m_target)
+        m_target->setAcceptHoverEvents(true);
 }
 
 void ToolTipTrigger::hide()

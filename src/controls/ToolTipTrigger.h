@@ -38,6 +38,9 @@ Q_SIGNALS:
 protected:
     void timerEvent(QTimerEvent *event) override;
 
+private Q_SLOTS:
+    void acceptHover();
+
 private:
     void watch();
     void hide();

@@ -2,7 +2,7 @@
 
 #include "ToolTipTrigger.h"
 
-void ToolTips::set(QQuickItem *item, const QString &text) const
+void ToolTips::set(QQuickItem *item, const QString &text)
 {
     if (!item)
         return;

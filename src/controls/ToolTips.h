@@ -13,5 +13,5 @@ public:
     using QObject::QObject;
 
     /// The item's tooltip, plain; an empty text takes it away.
-    Q_INVOKABLE void set(QQuickItem *item, const QString &text) const;
+    Q_INVOKABLE static void set(QQuickItem *item, const QString &text);
 };

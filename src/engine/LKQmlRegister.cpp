@@ -3,8 +3,11 @@
 #include "ButtonBackground.h"
 #include "ButtonContent.h"
 #include "ButtonTemplate.h"
+#include "Face.h"
+#include "FocusReturn.h"
 #include "FocusRing.h"
 #include "FontTokens.h"
+#include "ImageTemplate.h"
 #include "LKButtonSize.h"
 #include "LKButtonStyle.h"
 #include "LKButtonType.h"
@@ -14,19 +17,26 @@
 #include "LKPillButtonData.h"
 #include "LKQmlComponents.h"
 #include "LKRoundButtonData.h"
+#include "LabelTemplate.h"
 #include "Logger.h"
 #include "QmlUtils.h"
 #include "RoundedPicture.h"
 #include "SessionModel.h"
+#include "SliderTemplate.h"
+#include "TextTemplate.h"
 #include "ToolTipTrigger.h"
 #include "ToolTipUtils.h"
 #include "ToolTips.h"
 #include "UiConstants.h"
+#include "WButtonContent.h"
+#include "WButtonTemplate.h"
+#include "WCheckBoxTemplate.h"
 #include "WMovieItem.h"
 #include "WMovieProvider.h"
 #include "WQmlBalloon.h"
 #include "WQmlHalfPill.h"
 #include "WQmlPopupController.h"
+#include "WTextFieldTemplate.h"
 
 #include <QQmlEngine>
 #include <QUrl>
@@ -56,6 +66,18 @@ template<typename T> void registerSingleton(const char *name, const char *uri = 
 template<typename T> void registerUncreatable(const char *name)
 {
     qmlRegisterUncreatableType<T>(Uri, 1, 0, name, u"%1 cannot be created from QML"_s.arg(QLatin1StringView(name)));
+}
+
+template<typename T> void registerPrivate(const char *name)
+{
+    qmlRegisterType<T>(PrivateUri, 1, 0, name);
+}
+
+// Whatever version of Qt a property of these has come with, the private types that are built on them have it.
+template<typename... Bases> void registerBases()
+{
+    constexpr int AnyRevision = 254;
+    (qmlRegisterRevision<Bases, AnyRevision>(PrivateUri, 1, 0), ...);
 }
 
 // The enum of a namespace of the same name.
@@ -91,20 +113,27 @@ void LKQmlRegister::registerLKQmlDataTypes()
     registerEnums<LKButtonType::Type>("LKButtonType");
     qmlRegisterSingletonType(componentUrl("FontConstants"), Uri, 1, 0, "FontConstants");
 
-    qmlRegisterType<ButtonBackground>(PrivateUri, 1, 0, "ButtonBackground");
-    qmlRegisterType<ButtonContent>(PrivateUri, 1, 0, "ButtonContent");
-    qmlRegisterType<ButtonTemplate>(PrivateUri, 1, 0, "ButtonTemplate");
-    // Whatever version of Qt a property of its bases has come with, it is there.
-    constexpr int AnyRevision = 254;
-    qmlRegisterRevision<QQuickItem, AnyRevision>(PrivateUri, 1, 0);
-    qmlRegisterRevision<QQuickControl, AnyRevision>(PrivateUri, 1, 0);
-    qmlRegisterRevision<QQuickAbstractButton, AnyRevision>(PrivateUri, 1, 0);
-    qmlRegisterRevision<QQuickButton, AnyRevision>(PrivateUri, 1, 0);
-    qmlRegisterType<FocusRing>(PrivateUri, 1, 0, "FocusRing");
-    qmlRegisterType<RoundedPicture>(PrivateUri, 1, 0, "RoundedPicture");
-    qmlRegisterType<SessionModel>(PrivateUri, 1, 0, "SessionModel");
-    qmlRegisterType<ToolTipTrigger>(PrivateUri, 1, 0, "ToolTipTrigger");
-    qmlRegisterType<WMovieItem>(PrivateUri, 1, 0, "WMovieItem");
+    registerPrivate<ButtonBackground>("ButtonBackground");
+    registerPrivate<ButtonContent>("ButtonContent");
+    registerPrivate<ButtonTemplate>("ButtonTemplate");
+    registerPrivate<Face>("Face");
+    registerPrivate<FocusRing>("FocusRing");
+    registerPrivate<ImageTemplate>("ImageTemplate");
+    registerPrivate<LabelTemplate>("LabelTemplate");
+    registerPrivate<RoundedPicture>("RoundedPicture");
+    registerPrivate<SessionModel>("SessionModel");
+    registerPrivate<SliderTemplate>("SliderTemplate");
+    registerPrivate<TextTemplate>("TextTemplate");
+    registerPrivate<ToolTipTrigger>("ToolTipTrigger");
+    registerPrivate<WButtonContent>("WButtonContent");
+    registerPrivate<WButtonTemplate>("WButtonTemplate");
+    registerPrivate<WCheckBoxTemplate>("WCheckBoxTemplate");
+    registerPrivate<WMovieItem>("WMovieItem");
+    registerPrivate<WTextFieldTemplate>("WTextFieldTemplate");
+    qmlRegisterAnonymousType<StateColor>(PrivateUri, 1);
+    registerBases<QQuickItem, QQuickImageBase, QQuickImage, QQuickText, QQuickLabel, QQuickRectangle, QQuickControl,
+                  QQuickAbstractButton, QQuickButton, QQuickCheckBox, QQuickTextInput, QQuickTextField, QQuickSlider>();
+    registerSingleton<FocusReturn>("FocusReturn", PrivateUri);
     registerSingleton<FontTokens>("FontTokens", PrivateUri);
     registerSingleton<ToolTips>("ToolTips", PrivateUri);
 }

@@ -5,14 +5,6 @@
 
 #include <QDebug>
 
-namespace {
-
-constexpr std::array FlagSignals{&LKEventData::enabledChanged, &LKEventData::hoveredChanged,
-                                 &LKEventData::activeFocusChanged, &LKEventData::checkedChanged,
-                                 &LKEventData::pressedChanged};
-
-} // namespace
-
 LKButtonColors::LKButtonColors(QObject *parent)
     : WObject(parent)
 {
@@ -20,7 +12,11 @@ LKButtonColors::LKButtonColors(QObject *parent)
         color = new LKColorData(this);
 }
 
-LKButtonColors::~LKButtonColors() = default;
+LKButtonColors::~LKButtonColors()
+{
+    if (m_eventData)
+        m_eventData->m_users.removeOne(this);
+}
 
 QString LKButtonColors::themeType() const
 {
@@ -60,18 +56,11 @@ void LKButtonColors::setEventData(LKEventData *eventData)
 {
     if (eventData == m_eventData)
         return;
-    if (m_eventData) {
-        for (const auto flagSignal : FlagSignals)
-            disconnect(m_eventData, flagSignal, this, &LKButtonColors::updateState);
-        disconnect(m_eventData, &QObject::destroyed, this, nullptr);
-    }
+    if (m_eventData)
+        m_eventData->m_users.removeOne(this);
     m_eventData = eventData;
-    if (m_eventData) {
-        for (const auto flagSignal : FlagSignals)
-            connect(m_eventData, flagSignal, this, &LKButtonColors::updateState);
-        connect(m_eventData, &QObject::destroyed, this, &LKButtonColors::notifyEventData);
-        connect(m_eventData, &QObject::destroyed, this, &LKButtonColors::updateState);
-    }
+    if (m_eventData)
+        m_eventData->m_users.append(this);
     notifyEventData();
     updateState();
 }

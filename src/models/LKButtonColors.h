@@ -50,5 +50,6 @@ private:
 
     QString m_themeType;
     std::array<QPointer<LKColorData>, PartCount> m_colors;
-    QPointer<LKEventData> m_eventData;
+    LKEventData *m_eventData = nullptr; // tells when it goes
+    friend class LKEventData;
 };

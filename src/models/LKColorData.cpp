@@ -1,18 +1,9 @@
 #include "LKColorData.h"
 
-#include "IWApplication.h"
 #include "LKEventData.h"
 #include "WThemeUtils.h"
 
 namespace {
-
-WColorSet findColorSet(const QString &token)
-{
-    // The application's own look-up needs no conversion of the name.
-    if (const auto *application = qobject_cast<IWApplication *>(QCoreApplication::instance()))
-        return application->getColorSet(token);
-    return WThemeUtils::getColorSet(token.toStdString());
-}
 
 const QColor &stateColor(const WColorSet &colorSet, const LKEventData &state)
 {
@@ -49,7 +40,7 @@ void LKColorData::setToken(const QString &token)
         return;
     m_token = token;
     Q_EMIT tokenChanged();
-    m_colorSet = findColorSet(m_token);
+    m_colorSet = WThemeUtils::findColorSet(m_token);
     onEventDataChanged();
 }
 
@@ -64,7 +55,7 @@ void LKColorData::setActiveToken(const QString &activeToken)
         return;
     m_activeToken = activeToken;
     Q_EMIT activeTokenChanged();
-    m_activeColorSet = findColorSet(m_activeToken);
+    lookUpActiveColorSet();
     onEventDataChanged();
 }
 
@@ -93,15 +84,21 @@ void LKColorData::onEventDataChanged()
         setColor(Qt::transparent);
         return;
     }
-    const bool isActive = m_eventData->checked() && m_activeColorSet.isValid();
-    setColor(stateColor(isActive ? m_activeColorSet : m_colorSet, *m_eventData));
+    const bool isActive = m_eventData->checked() && m_activeColorSet && m_activeColorSet->isValid();
+    setColor(stateColor(isActive ? *m_activeColorSet : m_colorSet, *m_eventData));
 }
 
 void LKColorData::onColorDataChanged()
 {
-    m_colorSet = findColorSet(m_token);
-    m_activeColorSet = findColorSet(m_activeToken);
+    m_colorSet = WThemeUtils::findColorSet(m_token);
+    lookUpActiveColorSet();
     onEventDataChanged();
+}
+
+void LKColorData::lookUpActiveColorSet()
+{
+    m_activeColorSet =
+        m_activeToken.isEmpty() ? nullptr : std::make_unique<WColorSet>(WThemeUtils::findColorSet(m_activeToken));
 }
 
 void LKColorData::setColor(const QColor &color)

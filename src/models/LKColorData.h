@@ -8,6 +8,8 @@
 #include <QString>
 #include <qqmlintegration.h>
 
+#include <memory>
+
 class LKEventData;
 
 /// One colour of a button: that of a colour set for the current state. Disabled beats pressed, pressed beats hovered,
@@ -56,12 +58,13 @@ Q_SIGNALS:
     void eventDataChanged();
 
 private:
+    void lookUpActiveColorSet();
     void setColor(const QColor &color);
 
     QString m_token;
     QString m_activeToken;
     QColor m_color = Qt::transparent;
     WColorSet m_colorSet;
-    WColorSet m_activeColorSet;
+    std::unique_ptr<WColorSet> m_activeColorSet; // most have none
     QPointer<LKEventData> m_eventData;
 };

@@ -1,11 +1,17 @@
 #include "LKEventData.h"
 
+#include "LKButtonColors.h"
+
 LKEventData::LKEventData(QObject *parent)
     : WObject(parent)
 {
 }
 
-LKEventData::~LKEventData() = default;
+LKEventData::~LKEventData()
+{
+    while (!m_users.isEmpty())
+        m_users.last()->setEventData(nullptr);
+}
 
 bool LKEventData::enabled() const
 {
@@ -62,5 +68,10 @@ void LKEventData::setFlag(bool &flag, bool value, void (LKEventData::*changed)()
     if (value == flag)
         return;
     flag = value;
+    const auto users = m_users; // one may go meanwhile
+    for (LKButtonColors *user : users) {
+        if (m_users.contains(user))
+            user->updateState();
+    }
     Q_EMIT(this->*changed)();
 }

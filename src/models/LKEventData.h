@@ -2,7 +2,10 @@
 
 #include "WObject.h"
 
+#include <QVarLengthArray>
 #include <qqmlintegration.h>
+
+class LKButtonColors;
 
 /// The interaction state of a button: flags that the button's component sets. All are false at first, so a button that
 /// nobody enables shows as disabled.
@@ -50,4 +53,8 @@ private:
     bool m_activeFocus = false;
     bool m_checked = false;
     bool m_pressed = false;
+
+    // Each of them would take seven connections, in every button of a screen.
+    QVarLengthArray<LKButtonColors *, 1> m_users;
+    friend class LKButtonColors;
 };

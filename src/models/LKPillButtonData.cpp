@@ -27,11 +27,20 @@ constexpr auto PillSizes = std::to_array<PillSize>({
 });
 static_assert(ButtonTables::isIndexedByKey(PillSizes));
 
+// The property gives a QFont. Qt would make a default font of it for C++ that asks for the WFont.
+void letVariantsConvertToWFont()
+{
+    static const bool registered =
+        QMetaType::hasRegisteredConverterFunction<QFont, WFont>() || QMetaType::registerConverter<QFont, WFont>();
+    Q_UNUSED(registered)
+}
+
 } // namespace
 
 LKPillButtonData::LKPillButtonData(QObject *parent)
     : ILKButtonData(parent)
 {
+    letVariantsConvertToWFont();
     if (auto *application = qobject_cast<WApplication *>(QCoreApplication::instance()))
         connect(application, &WApplication::fontScaleFactorChanged, this, &LKPillButtonData::refresh);
 }

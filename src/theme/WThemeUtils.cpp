@@ -159,6 +159,13 @@ WColorSet WThemeUtils::getColorSet(const std::string &name)
     return entry->second;
 }
 
+WColorSet WThemeUtils::findColorSet(const QString &name)
+{
+    if (const auto *application = qobject_cast<IWApplication *>(QCoreApplication::instance()))
+        return application->getColorSet(name);
+    return getColorSet(name.toStdString());
+}
+
 QString WThemeUtils::colorSetTokenName(int identifier)
 {
     if (identifier < 0 || size_t(identifier) >= ColorSetTokens.size())

@@ -37,6 +37,8 @@ LUMAKITQML_EXPORT const std::unordered_map<std::string, WColorSet> &getAppWColor
 
 /// One of the application's colour sets. An unknown name logs a warning; it and an empty name give an invalid set.
 LUMAKITQML_EXPORT WColorSet getColorSet(const std::string &name);
+/// The same, by a look-up that needs no other form of the name.
+LUMAKITQML_EXPORT WColorSet findColorSet(const QString &name);
 
 /// The name of a colour-set token, 0 to 641 in ASCII order of the names; empty outside.
 LUMAKITQML_EXPORT QString colorSetTokenName(int identifier);

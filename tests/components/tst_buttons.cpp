@@ -35,12 +35,16 @@ private Q_SLOTS:
     void tagLetsTheMousePass();
     void keyIsACircle_data();
     void keyIsACircle();
+    void keysAreOfOneSize_data();
+    void keysAreOfOneSize();
 
     void dialogButtonsEmit_data();
     void dialogButtonsEmit();
     void dialogButtonsStandInOrder_data();
     void dialogButtonsStandInOrder();
     void dialogButtonsExistWhileVisible();
+    void dialogButtonsFitTheirBox_data();
+    void dialogButtonsFitTheirBox();
 
     void overflowListByKeyboard_data();
     void overflowListByKeyboard();
@@ -65,7 +69,9 @@ private Q_SLOTS:
 
     void peopleAreSummedUp_data();
     void peopleAreSummedUp();
+    void noListOfPeopleIsAnEmptyOne();
     void peopleRowIsMadeCurrent();
+    void disabledPeopleRowIsDimmed();
     void peopleRowFollowsItsStateInHighContrast();
 
 private:
@@ -322,6 +328,8 @@ void tst_Buttons::iconStandsOnItsSide()
     const double gap = isIconLeft ? sceneX(texts[0]) - sceneX(icons[0]) - icons[0]->width()
                                   : sceneX(icons[0]) - sceneX(texts[0]) - texts[0]->width();
     QCOMPARE(gap, root()->property("spacing").toReal());
+    QCOMPARE(texts[0]->property("effectiveHorizontalAlignment").toInt(),
+             int(mirrored ? Qt::AlignRight : Qt::AlignLeft));
     QCOMPARE(std::fmod(sceneX(icons[0]), 1.0), 0.0);
     QCOMPARE(std::fmod(icons[0]->mapToScene({}).y(), 1.0), 0.0);
 }
@@ -436,6 +444,31 @@ void tst_Buttons::keyIsACircle()
     QTRY_COMPARE_GT(root()->height(), texts[0]->height() + texts[1]->height());
 }
 
+void tst_Buttons::keysAreOfOneSize_data()
+{
+    QTest::addColumn<float>("scale");
+    QTest::addColumn<int>("size");
+    QTest::newRow("regular fonts") << 1.0F << 56;
+    QTest::newRow("large fonts") << 1.5F << 84;
+}
+
+// With and without characters below the large one.
+void tst_Buttons::keysAreOfOneSize()
+{
+    QFETCH(const float, scale);
+    QFETCH(const int, size);
+    application()->setFontScaleFactor(scale);
+    QVERIFY(show("Row { WKeyButton { primary: '1' } WKeyButton { primary: '7'; secondary: 'PQRS' } }"));
+    const auto keys = itemsWith(root(), "primary");
+    QCOMPARE(keys.size(), 2);
+    for (const QQuickItem *key : keys)
+        QCOMPARE(key->size(), QSizeF(size, size));
+    const auto texts = itemsWith(keys[1], "truncated");
+    QCOMPARE(texts.size(), 2);
+    QCOMPARE_GE(texts[0]->mapToItem(keys[1], QPointF()).y(), 0.0);
+    QCOMPARE_LE(texts[1]->mapToItem(keys[1], QPointF(0, texts[1]->height())).y(), double(size));
+}
+
 void tst_Buttons::dialogButtonsEmit_data()
 {
     QTest::addColumn<QByteArray>("button");
@@ -514,6 +547,42 @@ void tst_Buttons::dialogButtonsExistWhileVisible()
     root()->setProperty("cancelVisible", false);
     QVERIFY(!item(root(), "cancelButton"));
     QTRY_COMPARE(root()->implicitWidth(), width);
+}
+
+void tst_Buttons::dialogButtonsFitTheirBox_data()
+{
+    QTest::addColumn<bool>("mirrored");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("isElided");
+    for (const bool mirrored : {false, true}) {
+        const char *direction = mirrored ? "right to left" : "left to right";
+        QTest::addRow("%s, by its own width", direction) << mirrored << 0 << false;
+        QTest::addRow("%s, wider", direction) << mirrored << 700 << false;
+        QTest::addRow("%s, narrower", direction) << mirrored << 400 << true;
+    }
+}
+
+void tst_Buttons::dialogButtonsFitTheirBox()
+{
+    QFETCH(const bool, mirrored);
+    QFETCH(const int, width);
+    QFETCH(const bool, isElided);
+    const QByteArray size = width > 0 ? "width: " + QByteArray::number(width) + "; " : QByteArray();
+    QVERIFY(show("WDialogButtonBox { " + size + "LayoutMirroring.enabled: " + (mirrored ? "true" : "false")
+                 + "; LayoutMirroring.childrenInherit: true; padding: 16; spacing: 8; "
+                   "okText: 'Einstellungen übernehmen'; middleText: 'Zurücksetzen'; cancelText: 'Nein' }"));
+    const auto *ok = item(root(), "okButton");
+    const auto *middle = item(root(), "middleButton");
+    const auto *cancel = item(root(), "cancelButton");
+    QTRY_COMPARE(mirrored ? sceneX(cancel) : sceneX(cancel) + cancel->width(), mirrored ? 16.0 : root()->width() - 16);
+    QCOMPARE(ok->width() < ok->implicitWidth(), isElided);
+    QCOMPARE(middle->width(), middle->implicitWidth());
+    QCOMPARE(cancel->width(), cancel->implicitWidth());
+    const double start = mirrored ? root()->width() - sceneX(ok) - ok->width() : sceneX(ok);
+    QCOMPARE_GE(start, 16.0);
+    const double natural = ok->implicitWidth() + middle->implicitWidth() + cancel->implicitWidth() + 2 * 8 + 2 * 16;
+    QCOMPARE(root()->implicitWidth(), natural);
+    QCOMPARE(sceneX(mirrored ? ok : middle), sceneX(mirrored ? middle : ok) + (mirrored ? middle : ok)->width() + 8);
 }
 
 namespace {
@@ -862,6 +931,15 @@ void tst_Buttons::peopleAreSummedUp()
     QCOMPARE(texts[1]->isVisible(), !summary.isEmpty());
 }
 
+void tst_Buttons::noListOfPeopleIsAnEmptyOne()
+{
+    QVERIFY(show("PeopleSummaryBricklet { text: 'Team'; names: ['A'] }"));
+    root()->setProperty("names", QVariant::fromValue(nullptr));
+    QCOMPARE(root()->property("summary").toString(), QString());
+    root()->setProperty("names", QVariant());
+    QCOMPARE(root()->property("summary").toString(), QString());
+}
+
 void tst_Buttons::peopleRowIsMadeCurrent()
 {
     QVERIFY(show("ListView { width: 300; height: 200; model: ['Red', 'Green', 'Blue']; "
@@ -878,6 +956,19 @@ void tst_Buttons::peopleRowIsMadeCurrent()
     QVERIFY(QAccessible::queryAccessibleInterface(row(2))->state().selected);
     moveMouseAway();
     QTRY_COMPARE(color(row(2), "colour"), application()->getColorSet(u"listitem-background"_s).checked);
+}
+
+void tst_Buttons::disabledPeopleRowIsDimmed()
+{
+    QVERIFY(show("PeopleSummaryBricklet { text: 'Team'; names: ['A'] }"));
+    const auto texts = itemsWith(root(), "truncated");
+    const WColorSet primary = application()->getColorSet(u"listitem-textprimary"_s);
+    const WColorSet secondary = application()->getColorSet(u"listitem-textsecondary"_s);
+    QCOMPARE(color(texts[0], "color"), primary.normal);
+    QCOMPARE(color(texts[1], "color"), secondary.normal);
+    root()->setEnabled(false);
+    QCOMPARE(color(texts[0], "color"), primary.disabled);
+    QCOMPARE(color(texts[1], "color"), secondary.disabled);
 }
 
 void tst_Buttons::peopleRowFollowsItsStateInHighContrast()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void dropShadow();
     void shadowRectReach_data();
     void shadowRectReach();
+    void shadowRectOfNegativeReach();
     void shadowRectFadesOut();
     void fade_data();
     void fade();
@@ -161,6 +162,15 @@ void tst_Effects::shadowRectReach()
     QCOMPARE(isShadow(100, 149 + offset + offset / 2), true);
     QCOMPARE(isShadow(100, 150 + offset + offset / 2), false);
     QCOMPARE(isShadow(100, 49 - offset + offset / 2), false);
+}
+
+void tst_Effects::shadowRectOfNegativeReach()
+{
+    QVERIFY(show("Item { implicitWidth: 200; implicitHeight: 200; "
+                 "WDropShadowRect { x: 50; y: 50; width: 100; height: 100; offset: -3 } }"));
+    const QImage image = window()->grabWindow();
+    QCOMPARE(image.pixelColor(49, 100), QColor(Qt::white));
+    QCOMPARE(image.pixelColor(100, 151), QColor(Qt::white));
 }
 
 void tst_Effects::shadowRectFadesOut()

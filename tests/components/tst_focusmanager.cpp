@@ -1,6 +1,7 @@
 #include <ComponentTest.h>
 
 #include <QAccessible>
+#include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +18,228 @@ QByteArray threeButtons(const QByteArray &properties)
         + " WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b' } WButton { id: c; objectName: 'c' } }"
           " WButton { objectName: 'after' } }";
 }
+
+struct Manager;
+
+// An item of a screen: a manager, or a leaf.
+struct Node
+{
+    QString name;
+    Manager *parent = nullptr;
+    std::unique_ptr<Manager> manager;
+    bool enabled = true;
+};
+
+struct Manager
+{
+    Node *node = nullptr;
+    Node dummy;
+    std::vector<std::unique_ptr<Node>> items;
+    bool isNavigating = false;
+    bool forceNavigation = false;
+    bool wrapAround = true;
+    int index = 0;
+    int circleStart = -1;
+    Reason reason = Tab;
+
+    Manager *parent() const { return node->parent; }
+};
+
+// What managers do, without windows and QML: the reference for random screens.
+class Screen
+{
+public:
+    explicit Screen(QRandomGenerator &random)
+        : m_random(random)
+        , m_root(makeManager(nullptr, 0))
+    {
+    }
+
+    QByteArray qml() const { return qml(*m_root); }
+    const std::vector<Manager *> &managers() const { return m_managers; }
+    const std::vector<Node *> &leaves() const { return m_leaves; }
+    const Node *focused() const { return m_focused; }
+
+    void start() { focus(m_root.get()); }
+
+    void press(Qt::Key key)
+    {
+        for (Manager *manager = scopeOf(m_focused); manager; manager = manager->parent()) {
+            if (key == Qt::Key_Tab && manager->isNavigating)
+                return move(*manager, Tab);
+            if (key == Qt::Key_Backtab && manager->isNavigating)
+                return move(*manager, Backtab);
+            if (key == Qt::Key_Return) {
+                if (!manager->isNavigating)
+                    startAt(*manager, -1, Tab);
+                return;
+            }
+            if (key == Qt::Key_Escape && manager->isNavigating && !manager->forceNavigation) {
+                manager->isNavigating = false;
+                return focus(&manager->dummy);
+            }
+        }
+    }
+
+private:
+    std::unique_ptr<Node> makeManager(Manager *parent, int depth)
+    {
+        auto node = std::make_unique<Node>();
+        node->name = u"m%1"_s.arg(m_managers.size());
+        node->parent = parent;
+        node->manager = std::make_unique<Manager>();
+        Manager *manager = node->manager.get();
+        m_managers.push_back(manager);
+        manager->node = node.get();
+        manager->dummy.name = "dummy-of-"_L1 + node->name;
+        manager->dummy.parent = manager;
+        manager->forceNavigation = m_random.bounded(2) == 0;
+        manager->wrapAround = m_random.bounded(2) == 0;
+        for (int left = m_random.bounded(1, 5); left > 0; --left) {
+            if (depth < 3 && m_random.bounded(3) == 0) {
+                manager->items.push_back(makeManager(manager, depth + 1));
+            } else {
+                auto leaf = std::make_unique<Node>();
+                leaf->name = u"i%1"_s.arg(m_leaves.size());
+                leaf->parent = manager;
+                leaf->enabled = m_random.bounded(2) == 0;
+                m_leaves.push_back(leaf.get());
+                manager->items.push_back(std::move(leaf));
+            }
+        }
+        return node;
+    }
+
+    static QByteArray qml(const Node &node)
+    {
+        const QByteArray name = node.name.toLatin1();
+        const auto text = [](bool value) { return value ? "true" : "false"; };
+        const QByteArray start = " { id: " + name + "; objectName: '" + name + "'; width: 9; height: 9; ";
+        if (!node.manager)
+            return "Item" + start + "enabled: " + text(node.enabled) + " }\n";
+        QByteArray children;
+        QByteArrayList names;
+        for (const auto &item : node.manager->items) {
+            children += qml(*item);
+            names << item->name.toLatin1();
+        }
+        return "LKFocusManager" + start + "forceNavigation: " + text(node.manager->forceNavigation) + "; wrapAround: "
+            + text(node.manager->wrapAround) + "; focusableItems: [" + names.join(", ") + "]\n" + children + "}\n";
+    }
+
+    static Manager *scopeOf(const Node *node)
+    {
+        if (!node)
+            return nullptr;
+        return node->manager ? node->manager.get() : node->parent;
+    }
+
+    static bool isInside(const Node *node, const Manager *manager)
+    {
+        for (const Manager *scope = scopeOf(node); scope; scope = scope->parent()) {
+            if (scope == manager)
+                return true;
+        }
+        return false;
+    }
+
+    void focus(Node *node)
+    {
+        const Node *before = std::exchange(m_focused, node);
+        for (Manager *manager : m_managers) {
+            if (isInside(before, manager) && !isInside(node, manager)) {
+                manager->isNavigating = false;
+                manager->reason = Tab;
+            }
+        }
+        for (Manager *manager : m_managers) {
+            if (isInside(node, manager) && !isInside(before, manager))
+                takeFocus(*manager);
+        }
+    }
+
+    void takeFocus(Manager &manager)
+    {
+        if (manager.parent())
+            pointTo(manager, manager.reason);
+        if (!manager.forceNavigation)
+            focus(manager.node);
+        else if (manager.reason == Tab)
+            startAt(manager, -1, Tab);
+        else
+            startAt(manager, int(manager.items.size()), Backtab);
+    }
+
+    static void pointTo(const Manager &manager, Reason reason)
+    {
+        Manager &parent = *manager.parent();
+        const auto isIt = [&](const auto &item) { return item.get() == manager.node; };
+        parent.index = int(std::ranges::find_if(parent.items, isIt) - parent.items.begin());
+        parent.reason = reason;
+        if (parent.parent()) {
+            parent.parent()->isNavigating = true;
+            pointTo(parent, reason);
+        }
+    }
+
+    void startAt(Manager &manager, int index, Reason reason)
+    {
+        manager.index = index;
+        move(manager, reason);
+    }
+
+    void move(Manager &manager, Reason reason)
+    {
+        const int step = reason == Tab ? 1 : -1;
+        const int count = int(manager.items.size());
+        manager.isNavigating = true;
+        const bool begins = manager.circleStart < 0;
+        for (;;) {
+            const int next = manager.index + step;
+            const bool leads = next < 0 || next >= count;
+            if (leads && !manager.wrapAround) {
+                handOver(manager, reason);
+                break;
+            }
+            manager.index = leads ? (step > 0 ? 0 : count - 1) : next;
+            if (manager.index == manager.circleStart)
+                break;
+            if (manager.circleStart < 0)
+                manager.circleStart = manager.index;
+            if (manager.items[size_t(manager.index)]->enabled) {
+                give(manager, reason);
+                break;
+            }
+        }
+        if (begins)
+            manager.circleStart = -1;
+    }
+
+    void handOver(Manager &manager, Reason reason)
+    {
+        if (!manager.parent())
+            return;
+        manager.isNavigating = false;
+        move(*manager.parent(), reason);
+    }
+
+    void give(Manager &manager, Reason reason)
+    {
+        Node *node = manager.items[size_t(manager.index)].get();
+        manager.reason = reason;
+        if (node->manager ? isInside(m_focused, node->manager.get()) : m_focused == node)
+            return;
+        if (node->manager)
+            node->manager->reason = reason;
+        focus(node);
+    }
+
+    QRandomGenerator &m_random;
+    std::vector<Manager *> m_managers; // the outer before the inner
+    std::vector<Node *> m_leaves;
+    std::unique_ptr<Node> m_root;
+    Node *m_focused = nullptr;
+};
 
 } // namespace
 
@@ -40,6 +263,12 @@ private Q_SLOTS:
     void takesFocusItself_data();
     void takesFocusItself();
     void handsOverWithoutWrapping();
+    void handsOnWhatIsGivenToIt_data();
+    void handsOnWhatIsGivenToIt();
+    void onlyUnusableProxies_data();
+    void onlyUnusableProxies();
+    void comesBackWithoutItsOldItem();
+    void randomScreens();
     void withoutEnclosingManager();
     void proxy();
     void nestedWalk();
@@ -306,6 +535,122 @@ void tst_FocusManager::handsOverWithoutWrapping()
     press(Qt::Key_Backtab);
     QCOMPARE(focused(), u"inner"_s);
     QCOMPARE(inner->property("focusReason").toInt(), int(Backtab));
+}
+
+void tst_FocusManager::handsOnWhatIsGivenToIt_data()
+{
+    QTest::addColumn<QByteArray>("inner");
+    QTest::newRow("a proxy of a disabled item behind the last usable one")
+        << QByteArray("focusableItems: [a, proxy]; WButton { id: a; objectName: 'a' }"
+                      " LKFocusManagerProxy { id: proxy; target: off; WButton { id: off; enabled: false } }");
+    QTest::newRow("two of them in a manager")
+        << QByteArray("focusableItems: [a, deep]; WButton { id: a; objectName: 'a' }"
+                      " LKFocusManager { id: deep; forceNavigation: true; wrapAround: false;"
+                      "  focusableItems: [proxy, other];"
+                      "  LKFocusManagerProxy { id: proxy; target: off; WButton { id: off; enabled: false } }"
+                      "  LKFocusManagerProxy { id: other; target: hidden; WButton { id: hidden; visible: false } } }");
+}
+
+// A manager that gets the focus and has nothing to give it to hands it on at once, past all managers around it.
+void tst_FocusManager::handsOnWhatIsGivenToIt()
+{
+    QFETCH(const QByteArray, inner);
+    QVERIFY(show("LKFocusManager { objectName: 'outer'; focusableItems: [first, middle, last]; width: 9; height: 9;"
+                 " WButton { id: first; objectName: 'first' }"
+                 " LKFocusManager { id: middle; forceNavigation: true; wrapAround: false; "
+                 + inner + " } WButton { id: last; objectName: 'last' } }"));
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    QCOMPARE(walk(Qt::Key_Tab, 4), QStringList({u"a"_s, u"last"_s, u"first"_s, u"a"_s}));
+    QCOMPARE(walk(Qt::Key_Backtab, 4), QStringList({u"first"_s, u"last"_s, u"a"_s, u"first"_s}));
+}
+
+void tst_FocusManager::onlyUnusableProxies_data()
+{
+    QTest::addColumn<bool>("wrapAround");
+    QTest::newRow("around") << true;
+    QTest::newRow("from end to end") << false;
+}
+
+// Each hands on to the other, which ends after one circle.
+void tst_FocusManager::onlyUnusableProxies()
+{
+    QFETCH(const bool, wrapAround);
+    QVERIFY(
+        show("LKFocusManager { objectName: 'outer'; focusableItems: [one, two]; width: 9; height: 9;"
+             " LKFocusManagerProxy { id: one; objectName: 'one'; target: a; WButton { id: a; enabled: false } }"
+             " LKFocusManagerProxy { id: two; objectName: 'two'; target: b; WButton { id: b; enabled: false } } }"));
+    root()->setProperty("wrapAround", wrapAround);
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    QCOMPARE(focused(), u"two"_s);
+    QCOMPARE(root()->property("isNavigating").toBool(), true);
+    QCOMPARE(find(u"two"_s)->property("isNavigating").toBool(), false);
+    press(Qt::Key_Tab);
+    QCOMPARE(root()->hasActiveFocus(), true);
+    press(Qt::Key_Escape);
+    QCOMPARE(focused(), u"dummy-of-outer"_s);
+}
+
+// Also when it was left by a step over items that cannot be used.
+void tst_FocusManager::comesBackWithoutItsOldItem()
+{
+    QVERIFY(show("LKFocusManager { objectName: 'outer'; focusableItems: [first, inner]; width: 9; height: 9;"
+                 " WButton { id: first; objectName: 'first' }"
+                 " LKFocusManager { id: inner; objectName: 'inner'; wrapAround: false; focusableItems: [a, b];"
+                 "  WButton { id: a; objectName: 'a' } WButton { id: b; objectName: 'b'; enabled: false } } }"));
+    root()->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    QCOMPARE(focused(), u"a"_s);
+    QCOMPARE(walk(Qt::Key_Tab, 2), QStringList({u"first"_s, u"inner"_s}));
+    QCOMPARE(find(u"inner"_s)->property("isNavigating").toBool(), false);
+}
+
+// LUMAKIT_SEED repeats one.
+void tst_FocusManager::randomScreens()
+{
+    bool given = false;
+    const uint environmentSeed = qEnvironmentVariable("LUMAKIT_SEED").toUInt(&given);
+    const uint firstSeed = given ? environmentSeed : QRandomGenerator::global()->generate();
+    qInfo("LUMAKIT_SEED=%u", firstSeed);
+    for (uint seed = firstSeed; seed < firstSeed + 20; ++seed) {
+        QRandomGenerator random(seed);
+        Screen screen(random);
+        QVERIFY(show("Item { " + screen.qml() + " }"));
+        find(u"m0"_s)->forceActiveFocus(Qt::TabFocusReason);
+        screen.start();
+        QStringList steps{u"LUMAKIT_SEED=%1"_s.arg(seed), QString::fromLatin1(screen.qml())};
+        for (int step = 0; step < 30; ++step) {
+            QStringList expected{screen.focused()->name};
+            QStringList actual{focused()};
+            for (const Manager *manager : screen.managers()) {
+                const QString line = manager->node->name + u" %1 %2 %3"_s;
+                const QQuickItem *item = find(manager->node->name);
+                expected << line.arg(manager->isNavigating).arg(manager->index).arg(manager->reason);
+                actual << line.arg(item->property("isNavigating").toBool())
+                              .arg(item->property("currentFocusedIndex").toInt())
+                              .arg(item->property("focusReason").toInt());
+            }
+            QVERIFY2(actual == expected,
+                     qPrintable(steps.join(u'\n') + "\nis "_L1 + actual.join(u", "_s) + "\nnot "_L1
+                                + expected.join(u", "_s)));
+
+            Node *leaf =
+                screen.leaves().empty() ? nullptr : screen.leaves()[random.bounded(quint32(screen.leaves().size()))];
+            if (leaf && leaf != screen.focused() && random.bounded(4) == 0) {
+                leaf->enabled = !leaf->enabled;
+                find(leaf->name)->setEnabled(leaf->enabled);
+                steps << leaf->name + " switched"_L1;
+            }
+            constexpr Qt::Key Keys[]{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Escape};
+            const Qt::Key key = Keys[random.bounded(int(std::size(Keys)))];
+            press(key);
+            screen.press(key);
+            steps << QVariant::fromValue(key).toString();
+        }
+    }
 }
 
 void tst_FocusManager::withoutEnclosingManager()

@@ -113,6 +113,9 @@ private Q_SLOTS:
     void listWithItsScrollBar_data();
     void listWithItsScrollBar();
     void listThatDoesNotScroll();
+    void viewsHaveTheCurrentScrollBar_data();
+    void viewsHaveTheCurrentScrollBar();
+    void listThatFitsHidesItsScrollBar();
     void listIsScrolling();
     void listAccessibility();
     void gridKeys_data();
@@ -599,6 +602,38 @@ void tst_Lists::listThatDoesNotScroll()
     view()->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Down);
     QCOMPARE(root()->property("currentIndex").toInt(), 1);
+}
+
+void tst_Lists::viewsHaveTheCurrentScrollBar_data()
+{
+    QTest::addColumn<QByteArray>("qml");
+    QTest::newRow("list") << QByteArray("WListView {}");
+    QTest::newRow("grid") << QByteArray("WGridView {}");
+    QTest::newRow("sessions") << QByteArray("WExpandableListView {}");
+}
+
+void tst_Lists::viewsHaveTheCurrentScrollBar()
+{
+    QFETCH(const QByteArray, qml);
+    QVERIFY(show(qml));
+    const auto *bar = root()->property("scrollBar").value<QQuickItem *>();
+    QVERIFY(bar);
+    const QByteArray type = bar->metaObject()->className();
+    QVERIFY2(type.startsWith("LKScrollBar"), type);
+}
+
+// Its room stays free, so that no row moves when the bar appears.
+void tst_Lists::listThatFitsHidesItsScrollBar()
+{
+    QVERIFY(show(List + "}"));
+    const auto *bar = root()->property("scrollBar").value<QQuickItem *>();
+    QTRY_COMPARE(bar->opacity(), 1.0);
+    QCOMPARE(root()->property("widthNoScroll").toReal(), 200.0);
+    view()->setProperty("model", 1);
+    QTRY_COMPARE(bar->opacity(), 0.0);
+    QCOMPARE(root()->property("widthNoScroll").toReal(), 200.0);
+    view()->setProperty("model", 50);
+    QTRY_COMPARE(bar->opacity(), 1.0);
 }
 
 void tst_Lists::listIsScrolling()

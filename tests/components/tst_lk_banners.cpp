@@ -105,6 +105,7 @@ private Q_SLOTS:
 
     void avatarGroupLayout_data();
     void avatarGroupLayout();
+    void avatarGroupMirrors();
     void avatarGroupContacts();
     void avatarGroupColors();
 
@@ -702,6 +703,24 @@ void tst_LkBanners::avatarGroupLayout()
     QCOMPARE(overflow.isEmpty() || showsText(group, overflow), true);
     QCOMPARE(group->property("groupWidth").toInt(), width);
     QCOMPARE(group->implicitWidth(), width);
+}
+
+void tst_LkBanners::avatarGroupMirrors()
+{
+    QList<QRectF> places[2];
+    for (const bool mirrored : {false, true}) {
+        auto *group = showIt("LKAvatarGroup { objectName: 'it'; width: 200; avatarOneId: 'Ada'; avatarTwoId: 'Bob'; "
+                             "overflowCount: 5; LayoutMirroring.enabled: "
+                             + QByteArray(mirrored ? "true" : "false") + "; LayoutMirroring.childrenInherit: true }");
+        QVERIFY(group);
+        const QList<QQuickItem *> circles = itemsWith(group, "gradient"); // rings, avatars and the number
+        QCOMPARE_GE(circles.size(), 4);
+        for (const QQuickItem *circle : circles)
+            places[mirrored] += group->mapRectFromItem(circle, QRectF(QPointF(), circle->size()));
+    }
+    QCOMPARE(places[1].size(), places[0].size());
+    for (qsizetype i = 0; i < places[0].size(); ++i)
+        QCOMPARE(places[1][i].x(), 200 - places[0][i].right());
 }
 
 void tst_LkBanners::avatarGroupContacts()

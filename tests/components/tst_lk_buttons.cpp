@@ -1372,6 +1372,7 @@ void tst_LkButtons::badgeButtonOrder()
     const QQuickItem *badge = textNamed(u"5"_s);
     QTRY_COMPARE(sceneX(icon) < sceneX(text), !mirrored);
     QTRY_COMPARE(sceneX(text) < sceneX(badge), !mirrored);
+    QCOMPARE(text->property("effectiveHorizontalAlignment").toInt(), int(mirrored ? Qt::AlignRight : Qt::AlignLeft));
     const QColor expected = colorSet(u"button-secondary-text"_s).normal;
     moveMouseAway();
     QTRY_COMPARE(color(text), expected);

@@ -584,7 +584,7 @@ void tst_LkLists::shortcutSignals()
     QSignalSpy add(row, SIGNAL(addButtonClicked()));
     QSignalSpy more(row, SIGNAL(moreButtonClicked(QQuickItem *)));
     auto *addButton = itemsWithText(row, u"Add"_s).constFirst();
-    auto *moreButton = itemsWith(row, "iconName").constFirst();
+    auto *moreButton = itemsWith(row, "buttonIcon").constFirst();
     click(addButton);
     click(moreButton);
     QCOMPARE(add.count(), 1);
@@ -619,7 +619,7 @@ void tst_LkLists::disabledShortcut()
     QSignalSpy clicked(row, SIGNAL(clicked()));
     QSignalSpy more(row, SIGNAL(moreButtonClicked(QQuickItem *)));
     click(row, {20, 20});
-    click(itemsWith(row, "iconName").constFirst());
+    click(itemsWith(row, "buttonIcon").constFirst());
     QCOMPARE(clicked.count(), 0);
     QCOMPARE(more.count(), 0);
     QCOMPARE(row->property("color").value<QColor>(), application()->getColorSet(u"listitem-background"_s).disabled);
@@ -721,7 +721,7 @@ void tst_LkLists::groupSignals()
     const QList<QQuickItem *> rows = itemsWith(group, "keySequence");
     click(rows[1], {20, 20});
     click(itemsWithText(rows[1], u"Add"_s).constFirst());
-    click(itemsWith(rows[0], "iconName").constFirst());
+    click(itemsWith(rows[0], "buttonIcon").constFirst());
     QCOMPARE(clicked.count(), 1);
     QCOMPARE(clicked[0][0].toInt(), 1);
     QCOMPARE(add.count(), 1);

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void standsClearOfTheArrow();
     void keys_data();
     void keys();
+    void keysOfClosedEnds_data();
+    void keysOfClosedEnds();
     void escapeIsLeftToThePopup();
     void selectsByMouse_data();
     void selectsByMouse();
@@ -67,6 +69,8 @@ private Q_SLOTS:
     void selectsByKey();
     void modelDecidesWhatIsChecked();
     void scrollsToTheCurrentEntry();
+    void entriesStandClearOfTheScrollBar_data();
+    void entriesStandClearOfTheScrollBar();
     void colors();
     void menuIsAccessible();
 
@@ -253,8 +257,9 @@ void tst_LkMenus::keys_data()
     QTest::newRow("down twice") << down + down << u"Map"_s;
     QTest::newRow("up goes back") << down + down + up << u"Middle"_s;
     QTest::newRow("up passes too") << down + up << u"First"_s;
-    QTest::newRow("up stops at the first one") << up << u"First"_s;
-    QTest::newRow("down stops at the last one") << down + down + down + down << u"Last"_s;
+    QTest::newRow("up from the first one") << up << u"Last"_s;
+    QTest::newRow("down from the last one") << down + down + down + down << u"First"_s;
+    QTest::newRow("up after end") << QByteArray("$") + up << u"Map"_s;
     QTest::newRow("end") << QByteArray("$") << u"Last"_s;
     QTest::newRow("home") << QByteArray("$<") << u"First"_s;
     QTest::newRow("page down") << QByteArray("]") << u"Last"_s;
@@ -288,6 +293,33 @@ void tst_LkMenus::keys()
     QCOMPARE(currentText(), current);
     QCOMPARE(selected.count(), 0);
     QTRY_VERIFY(row(list()->property("currentIndex").toInt())->hasActiveFocus());
+}
+
+void tst_LkMenus::keysOfClosedEnds_data()
+{
+    QTest::addColumn<QList<Qt::Key>>("keys");
+    QTest::addColumn<int>("current");
+    QTest::newRow("with the focus") << QList<Qt::Key>{} << 2;
+    QTest::newRow("up") << QList<Qt::Key>{Qt::Key_Up} << 4;
+    QTest::newRow("up, down") << QList<Qt::Key>{Qt::Key_Up, Qt::Key_Down} << 2;
+    QTest::newRow("end") << QList<Qt::Key>{Qt::Key_End} << 4;
+    QTest::newRow("end, home") << QList<Qt::Key>{Qt::Key_End, Qt::Key_Home} << 2;
+    QTest::newRow("page down") << QList<Qt::Key>{Qt::Key_PageDown} << 4;
+    QTest::newRow("page down, page up") << QList<Qt::Key>{Qt::Key_PageDown, Qt::Key_PageUp} << 2;
+}
+
+void tst_LkMenus::keysOfClosedEnds()
+{
+    QFETCH(const QList<Qt::Key>, keys);
+    QFETCH(const int, current);
+    auto *menu = showMenu("model: [{ isSeparator: true }, { text: 'Off', enabled: false }, 'First', 'Middle', 'Last', "
+                          "{ text: 'Off', enabled: false }, { isSeparator: true }]");
+    QVERIFY(menu);
+    menu->forceActiveFocus(Qt::TabFocusReason);
+    for (const Qt::Key key : keys)
+        press(key);
+    QTRY_COMPARE(menu->property("currentIndex").toInt(), current);
+    QVERIFY(row(current)->hasActiveFocus());
 }
 
 void tst_LkMenus::escapeIsLeftToThePopup()
@@ -373,8 +405,30 @@ void tst_LkMenus::scrollsToTheCurrentEntry()
     QTRY_COMPARE(list()->property("contentY").toDouble(), 7.0 * RowHeight);
     press(Qt::Key_PageUp);
     QTRY_COMPARE(currentText(), u"H"_s);
-    // The entries leave room for the scroll bar.
-    QCOMPARE_LT(row(7)->width(), list()->width());
+}
+
+void tst_LkMenus::entriesStandClearOfTheScrollBar_data()
+{
+    QTest::addColumn<bool>("mirrored");
+    QTest::newRow("left to right") << false;
+    QTest::newRow("right to left") << true;
+}
+
+void tst_LkMenus::entriesStandClearOfTheScrollBar()
+{
+    QFETCH(const bool, mirrored);
+    auto *menu = showMenu("maxListItemSize: 3; model: [...'ABCDEFGHIJ']; property bool rtl; LayoutMirroring.enabled: "
+                          "rtl; LayoutMirroring.childrenInherit: true");
+    QVERIFY(menu);
+    menu->setProperty("rtl", mirrored);
+    QTRY_COMPARE(list()->height(), 3.0 * RowHeight);
+    const auto *bar = itemWith(list(), "arrowVisible");
+    QVERIFY(bar);
+    const auto leftOf = [this](const QQuickItem *shown) { return shown->mapToItem(list(), QPointF()).x(); };
+    QTRY_COMPARE(leftOf(bar), mirrored ? 0.0 : list()->width() - bar->width());
+    QTRY_VERIFY(row(2));
+    QCOMPARE(leftOf(row(2)), mirrored ? bar->width() : 0.0);
+    QCOMPARE(row(2)->width(), list()->width() - bar->width());
 }
 
 void tst_LkMenus::colors()

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void fieldColours();
     void fieldTakesTheFocus_data();
     void fieldTakesTheFocus();
+    void themeTypeIsThatOfTheParts_data();
+    void themeTypeIsThatOfTheParts();
 
     void inputFieldShowsWhatBelongsToIt();
     void inputFieldColours();
@@ -50,6 +52,7 @@ private Q_SLOTS:
     void areaLimitAndUndo();
     void areaLimitByPaste_data();
     void areaLimitByPaste();
+    void pasteThatFitsIsUndoneAtOnce();
     void areaCounts();
     void areaScrolls();
     void tabLeavesTheArea();
@@ -64,6 +67,7 @@ private Q_SLOTS:
     void shortcutIsNotTheWindows();
     void shortcutEditingEnds_data();
     void shortcutEditingEnds();
+    void readOnlyEndsTheEditing();
     void shortcutStates_data();
     void shortcutStates();
     void longShortcutIsElided();
@@ -506,6 +510,26 @@ void tst_LkText::fieldTakesTheFocus()
     QVERIFY(field->hasActiveFocus());
 }
 
+void tst_LkText::themeTypeIsThatOfTheParts_data()
+{
+    QTest::addColumn<QByteArray>("qml");
+    QTest::addColumn<QByteArray>("part");
+    QTest::newRow("LKTextField") << QByteArray("LKTextField {}") << QByteArray("textField");
+    QTest::newRow("LKTextInputField") << QByteArray("LKTextInputField {}") << QByteArray("textField");
+    QTest::newRow("LKTextArea") << QByteArray("LKTextArea {}") << QByteArray("textArea");
+}
+
+void tst_LkText::themeTypeIsThatOfTheParts()
+{
+    QFETCH(const QByteArray, qml);
+    QFETCH(const QByteArray, part);
+    QVERIFY(show(qml));
+    const auto *field = item(root(), part);
+    QCOMPARE(field->property("themeType"), application()->property("themeMode"));
+    root()->setProperty("themeType", u"custom"_s);
+    QCOMPARE(field->property("themeType").toString(), u"custom"_s);
+}
+
 void tst_LkText::inputFieldShowsWhatBelongsToIt()
 {
     QVERIFY(show("LKTextInputField { width: 200 }"));
@@ -675,6 +699,20 @@ void tst_LkText::areaLimitByPaste()
     QTRY_COMPARE(root()->property("text").toString(), text);
 }
 
+void tst_LkText::pasteThatFitsIsUndoneAtOnce()
+{
+    QGuiApplication::clipboard()->setText(u"new"_s);
+    QVERIFY(show("LKTextArea { text: 'old'; maxCharacters: 5 }"));
+    auto *area = item(root(), "textArea");
+    area->forceActiveFocus();
+    QMetaObject::invokeMethod(area, "selectAll");
+    QTRY_VERIFY(area->property("canPaste").toBool());
+    press(Qt::Key_V, Qt::ControlModifier);
+    QTRY_COMPARE(root()->property("text").toString(), u"new"_s);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(root()->property("text").toString(), u"old"_s);
+}
+
 void tst_LkText::areaCounts()
 {
     QVERIFY(show("LKTextArea { text: 'abc' }"));
@@ -791,6 +829,11 @@ void tst_LkText::areaTakesItsColoursFromATarget()
     root()->setProperty("controlsTarget", root()->property("frame"));
     QCOMPARE(color(item(root(), "background"), "color"), token(u"textinput-background"_s, u"disabled"_s));
     QCOMPARE(color(root(), "color"), token(u"textinput-text"_s, u"disabled"_s));
+    LogRecorder log;
+    delete root()->property("frame").value<QObject *>(); // without it the area is its own target again
+    QCOMPARE(log.texts(), QStringList());
+    QCOMPARE(color(item(root(), "background"), "color"), token(u"textinput-background"_s));
+    QCOMPARE(color(root(), "color"), token(u"textinput-text"_s));
 }
 
 void tst_LkText::shortcutEditing_data()
@@ -911,6 +954,20 @@ void tst_LkText::shortcutEditingEnds()
     QCOMPARE(finishedSpy.count(), finished);
     QCOMPARE(canceledSpy.count(), canceled);
     QCOMPARE(captured.count(), text.isEmpty() ? 2 : 1);
+}
+
+void tst_LkText::readOnlyEndsTheEditing()
+{
+    QVERIFY(show("LKShortcutsLabel { labelText: 'Ctrl + A' }"));
+    QSignalSpy finished(root(), SIGNAL(editFinished()));
+    QSignalSpy canceled(root(), SIGNAL(editCanceled()));
+    root()->setProperty("isInEditMode", true);
+    press(Qt::Key_M, Qt::ControlModifier);
+    root()->setProperty("isReadOnly", true);
+    QCOMPARE(root()->property("isInEditMode").toBool(), false);
+    QCOMPARE(root()->property("labelText").toString(), u"Ctrl + A"_s);
+    QCOMPARE(finished.count(), 0);
+    QCOMPARE(canceled.count(), 1);
 }
 
 void tst_LkText::shortcutStates_data()

@@ -77,6 +77,8 @@ private Q_SLOTS:
 
     void menuKeys_data();
     void menuKeys();
+    void menuKeysShowTheFocus_data();
+    void menuKeysShowTheFocus();
     void menuItemTriggers_data();
     void menuItemTriggers();
     void menuItemIndicator_data();
@@ -103,6 +105,9 @@ private Q_SLOTS:
     void popupListStandsClearOfTheArrow();
     void popupListReportsABadDelegate();
 
+    void overflowListStandsClearOfTheBar_data();
+    void overflowListStandsClearOfTheBar();
+
     void coachmarkCloses_data();
     void coachmarkCloses();
     void coachmarkStays();
@@ -117,12 +122,23 @@ private Q_SLOTS:
     void dialogIllustration_data();
     void dialogIllustration();
     void dialogHasOnlyWhatItNeeds();
+    void dialogHasTheCurrentButtons();
     void dialogButtonsWrap();
     void dialogStandsClearOfTheArrow_data();
     void dialogStandsClearOfTheArrow();
     void dialogIsAccessible();
 
+    void escapeGivesTheFocusBack_data();
+    void escapeGivesTheFocusBack();
+    void escapeGivesTheFocusBackFromASubmenu();
+    void focusThatWentElsewhereStays();
+    void focusIsNotGivenToWhatIsGone_data();
+    void focusIsNotGivenToWhatIsGone();
+    void whatTakesNoFocusReturnsNone_data();
+    void whatTakesNoFocusReturnsNone();
+
 private:
+    static bool hasRing(const QQuickItem *item);
     QObject *showToolTip(const QByteArray &item, const QByteArray &properties, const QByteArray &text = "Text");
     QObject *showPopupList(const QByteArray &properties, int rows = 3);
     QQuickItem *row(int index) const;
@@ -136,6 +152,22 @@ private:
                 WMenuItem { objectName: 'off'; text: 'Off'; enabled: false }
                 WMenuItem { objectName: 'middle'; text: 'Middle' }
                 WMenuItem { objectName: 'last'; text: 'Last' }
+            }
+        })";
+
+    // Entries that can be chosen stand neither first nor last.
+    static constexpr auto EdgesQml = R"(
+        Item {
+            WMenu {
+                objectName: 'menu'
+                WMenuSeparator {}
+                WMenuItem { text: 'Off'; enabled: false }
+                WMenuItem { text: 'Hidden'; visible: false }
+                WMenuItem { objectName: 'first'; text: 'First' }
+                WMenuItem { objectName: 'middle'; text: 'Middle' }
+                WMenuItem { objectName: 'last'; text: 'Map' }
+                WMenuItem { objectName: 'off'; text: 'More'; enabled: false }
+                WMenuSeparator {}
             }
         })";
 };
@@ -377,8 +409,10 @@ void tst_Menus::menuKeys_data()
 {
     QTest::addColumn<QList<Qt::Key>>("keys");
     QTest::addColumn<QString>("triggered"); // nothing: the menu is still open
-    const auto key = [](const char *name, const QList<Qt::Key> &keys, const QString &triggered) {
-        QTest::newRow(name) << keys << triggered;
+    QTest::addColumn<QByteArray>("qml");
+    QByteArray qml = MenuQml;
+    const auto key = [&qml](const char *name, const QList<Qt::Key> &keys, const QString &triggered) {
+        QTest::newRow(name) << keys << triggered << qml;
     };
     key("down, return", {Qt::Key_Down, Qt::Key_Return}, u"first"_s);
     key("down, enter", {Qt::Key_Down, Qt::Key_Enter}, u"first"_s);
@@ -392,13 +426,63 @@ void tst_Menus::menuKeys_data()
     key("end at once", {Qt::Key_End, Qt::Key_Return}, u"last"_s);
     key("escape", {Qt::Key_Down, Qt::Key_Escape}, u"closed"_s);
     key("another key", {Qt::Key_Down, Qt::Key_F5}, {});
+    key("up at once", {Qt::Key_Up, Qt::Key_Return}, u"last"_s);
+    key("up, up", {Qt::Key_Up, Qt::Key_Up, Qt::Key_Return}, u"middle"_s);
+    key("down from the last one", {Qt::Key_End, Qt::Key_Down, Qt::Key_Return}, u"first"_s);
+    key("up from the first one", {Qt::Key_Home, Qt::Key_Up, Qt::Key_Return}, u"last"_s);
+    key("a letter", {Qt::Key_M, Qt::Key_Return}, u"middle"_s);
+    key("a letter of what is disabled", {Qt::Key_Down, Qt::Key_O, Qt::Key_Return}, u"first"_s);
+    key("a word", {Qt::Key_L, Qt::Key_A, Qt::Key_Return}, u"last"_s);
+    const std::pair<const char *, QByteArray> menus[] = {
+        {"WMenu", EdgesQml}, {"LKContextMenu", QByteArray(EdgesQml).replace("WMenu ", "LKContextMenu ")}};
+    for (const auto &[type, edges] : menus) {
+        qml = edges;
+        const auto edge = [&](const char *name, const QList<Qt::Key> &keys, const QString &triggered) {
+            key(type + QByteArray(" of closed ends, ") + name, keys, triggered);
+        };
+        edge("down", {Qt::Key_Down, Qt::Key_Return}, u"first"_s);
+        edge("up", {Qt::Key_Up, Qt::Key_Return}, u"last"_s);
+        edge("home", {Qt::Key_Home, Qt::Key_Return}, u"first"_s);
+        edge("end", {Qt::Key_End, Qt::Key_Return}, u"last"_s);
+        edge("down from the last one", {Qt::Key_Up, Qt::Key_Down, Qt::Key_Return}, u"first"_s);
+        edge("up from the first one", {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return}, u"last"_s);
+        edge("the letter again", {Qt::Key_M, Qt::Key_M, Qt::Key_Return}, u"last"_s);
+        edge("up from a letter", {Qt::Key_M, Qt::Key_Up, Qt::Key_Return}, u"first"_s);
+    }
+}
+
+// Whichever key has chosen an entry, that is where the keyboard is.
+void tst_Menus::menuKeysShowTheFocus_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("down") << Qt::Key_Down << u"first"_s;
+    QTest::newRow("up") << Qt::Key_Up << u"last"_s;
+    QTest::newRow("home") << Qt::Key_Home << u"first"_s;
+    QTest::newRow("end") << Qt::Key_End << u"last"_s;
+    QTest::newRow("a letter") << Qt::Key_M << u"middle"_s;
+}
+
+void tst_Menus::menuKeysShowTheFocus()
+{
+    QFETCH(const Qt::Key, key);
+    QFETCH(const QString, entry);
+    QVERIFY(show(MenuQml));
+    auto *menu = find<QObject>(u"menu"_s);
+    QVERIFY(QMetaObject::invokeMethod(menu, "open"));
+    press(key);
+    const auto *item = menu->findChild<QQuickItem *>(entry);
+    QVERIFY(item->hasActiveFocus());
+    QVERIFY(item->property("visualFocus").toBool());
+    QVERIFY(item->property("highlighted").toBool());
 }
 
 void tst_Menus::menuKeys()
 {
     QFETCH(const QList<Qt::Key>, keys);
     QFETCH(const QString, triggered);
-    QVERIFY(show(MenuQml));
+    QFETCH(const QByteArray, qml);
+    QVERIFY(show(qml));
     auto *menu = find<QObject>(u"menu"_s);
     QVERIFY(QMetaObject::invokeMethod(menu, "open"));
     std::map<QString, std::unique_ptr<QSignalSpy>> spies;
@@ -867,6 +951,33 @@ void tst_Menus::popupListReportsABadDelegate()
     QVERIFY(show("WPopupList { delegateSource: 'qrc:/Qml/NoSuchFile.qml'; model: 3 }"));
 }
 
+void tst_Menus::overflowListStandsClearOfTheBar_data()
+{
+    QTest::addColumn<bool>("mirrored");
+    QTest::newRow("left to right") << false;
+    QTest::newRow("right to left") << true;
+}
+
+void tst_Menus::overflowListStandsClearOfTheBar()
+{
+    QFETCH(const bool, mirrored);
+    QVERIFY(show("Item { Item { id: owner; width: 200; height: 20; LayoutMirroring.enabled: "
+                 + QByteArray(mirrored ? "true" : "false")
+                 + "; WButtonsOverflowList { objectName: 'list'; maximumVisibleRows: 3; model: [...'ABCDEFGH'] } } }"));
+    auto *popup = find<QObject>(u"list"_s);
+    QVERIFY(QMetaObject::invokeMethod(popup, "open"));
+    auto *list = itemOf(popup, "contentItem");
+    QQuickItem *first = nullptr;
+    QTRY_VERIFY(QMetaObject::invokeMethod(list, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, first), 0) && first);
+    const auto items = list->childItems();
+    const auto bar = std::find_if(items.begin(), items.end(),
+                                  [](const QQuickItem *item) { return item->inherits("QQuickScrollBar"); });
+    QVERIFY(bar != items.end());
+    QTRY_COMPARE((*bar)->x(), mirrored ? 0.0 : list->width() - (*bar)->width());
+    QTRY_COMPARE(first->mapToItem(list, QPointF()).x(), mirrored ? (*bar)->width() : 0.0);
+    QCOMPARE(first->width(), list->width() - (*bar)->width());
+}
+
 void tst_Menus::coachmarkCloses_data()
 {
     QTest::addColumn<QString>("way");
@@ -1115,6 +1226,21 @@ void tst_Menus::dialogHasOnlyWhatItNeeds()
     QTRY_COMPARE(dialog->width(), width + dialog->property("arrowSize").toInt());
 }
 
+void tst_Menus::dialogHasTheCurrentButtons()
+{
+    QVERIFY(show("Item { WFTEDialog { objectName: 'dialog'; leftPillButtonText: 'Later'; rightPillButtonText: 'Try'; "
+                 "hyperLinkButtonText: 'More' } }"));
+    QHash<QString, QByteArray> types;
+    const auto items = find(u"dialog"_s)->findChildren<QQuickItem *>();
+    for (const QQuickItem *item : items) {
+        if (item->inherits("QQuickButton"))
+            types[item->property("text").toString()] = item->metaObject()->className();
+    }
+    QVERIFY2(types[u"Later"_s].startsWith("LKPillButton"), types[u"Later"_s]);
+    QVERIFY2(types[u"Try"_s].startsWith("LKPillButton"), types[u"Try"_s]);
+    QVERIFY2(types[u"More"_s].startsWith("LKHyperlinkButton"), types[u"More"_s]);
+}
+
 void tst_Menus::dialogButtonsWrap()
 {
     QVERIFY(
@@ -1188,6 +1314,169 @@ void tst_Menus::dialogIsAccessible()
     QCOMPARE(interface->role(), QAccessible::Dialog);
     QCOMPARE(interface->text(QAccessible::Name), u"Title"_s);
     QCOMPARE(interface->text(QAccessible::Description), u"Message"_s);
+}
+
+bool tst_Menus::hasRing(const QQuickItem *item)
+{
+    const auto children = item->childItems();
+    return std::any_of(children.begin(), children.end(), [](const QQuickItem *child) {
+        return child->isVisible() && child->inherits("QQuickPaintedItem");
+    });
+}
+
+void tst_Menus::escapeGivesTheFocusBack_data()
+{
+    QTest::addColumn<QByteArray>("place"); // %1 is the button with the popup beside it
+    QTest::addColumn<QByteArray>("popup");
+    const std::pair<const char *, QByteArray> places[] = {
+        {"beside another", "Item { WButton { text: 'Other' } %1 }"},
+        {"in a scope", "Item { WButton { text: 'Other' } FocusScope { FocusScope { WButton { text: 'Inner' } %1 } } }"},
+        {"in a focus manager",
+         "Item { LKFocusManager { width: 100; height: 40; focusableItems: [button]; "
+         "forceNavigation: true; %1 } }"},
+        {"in a popup",
+         "Item { WButton { text: 'Other' } T.Popup { visible: true; focus: true; width: 100; height: 40; "
+         "Item { %1 } } }"},
+    };
+    const QByteArray item = "visible: false; function open() { visible = true; forceActiveFocus(Qt.PopupFocusReason); }"
+                            "Keys.onEscapePressed: visible = false; ";
+    const std::pair<const char *, QByteArray> popups[] = {
+        {"WMenu", "WMenu { objectName: 'popup'; WMenuItem { text: 'Entry' } }"},
+        {"LKContextMenu", "LKContextMenu { objectName: 'popup'; LKContextMenuItem { text: 'Entry' } }"},
+        {"WCoachmark", "WCoachmark { objectName: 'popup'; acquireFocusWhenShown: true; titleText: 'Title' }"},
+        {"WComboBox", "WComboBox { id: button; model: 3; popup.objectName: 'popup' }"},
+        {"LKComboBox", "LKComboBox { id: button; model: 3; popup.objectName: 'popup' }"},
+        {"LKMenu", "LKMenu { objectName: 'popup'; model: ['Entry']; " + item + "}"},
+        {"LKMenu of a popup", "T.Popup { objectName: 'popup'; focus: true; LKMenu { focus: true; model: ['Entry'] } }"},
+        {"WPopupList", "WPopupList { objectName: 'popup'; model: 1; " + item + "}"},
+        {"WFTEDialog",
+         "WFTEDialog { objectName: 'popup'; rightPillButtonText: 'Try'; visible: false; "
+         "onCloseButtonClicked: visible = false; "
+         "function open() { visible = true; forceActiveFocus(Qt.PopupFocusReason); } }"},
+    };
+    for (const auto &[where, place] : places) {
+        for (const auto &[type, popup] : popups)
+            QTest::addRow("%s %s", type, where) << place << popup;
+    }
+}
+
+void tst_Menus::escapeGivesTheFocusBack()
+{
+    QFETCH(QByteArray, place);
+    QFETCH(QByteArray, popup);
+    if (!popup.contains("id: button"))
+        popup.prepend("WButton { id: button; text: 'Opener' } ");
+    QVERIFY(show(place.replace("%1", popup + " Item { objectName: 'button'; property Item item: button }")));
+    auto *button = itemOf(root()->findChild<QObject *>(u"button"_s), "item");
+    auto *shown = root()->findChild<QObject *>(u"popup"_s);
+    QVERIFY(button && shown);
+    button->forceActiveFocus(Qt::TabFocusReason);
+    QVERIFY(button->hasActiveFocus() && hasRing(button));
+    for (int time = 0; time < 2; ++time) {
+        QVERIFY(QMetaObject::invokeMethod(shown, "open"));
+        QTRY_VERIFY(shown->property("visible").toBool());
+        QCOMPARE(button->hasActiveFocus(), button->inherits("QQuickComboBox"));
+        press(Qt::Key_Escape);
+        QTRY_VERIFY(!shown->property("visible").toBool());
+        QCOMPARE(window()->activeFocusItem(), button);
+        QVERIFY(hasRing(button));
+    }
+}
+
+void tst_Menus::escapeGivesTheFocusBackFromASubmenu()
+{
+    QVERIFY(show("Item { FocusScope { WButton { objectName: 'button'; text: 'Opener' } WMenu { objectName: 'menu'; "
+                 "WMenuItem { text: 'Entry' } WMenu { objectName: 'submenu'; title: 'More'; WMenuItem { objectName: "
+                 "'inner'; text: 'Inner' } } } } }"));
+    auto *button = find(u"button"_s);
+    auto *menu = find<QObject>(u"menu"_s);
+    auto *submenu = menu->findChild<QObject *>(u"submenu"_s);
+    const auto openBoth = [&] {
+        button->forceActiveFocus(Qt::TabFocusReason);
+        QVERIFY(QMetaObject::invokeMethod(menu, "open"));
+        press(Qt::Key_Up);
+        press(Qt::Key_Right);
+        QTRY_VERIFY(submenu->property("opened").toBool());
+    };
+    openBoth();
+    press(Qt::Key_Left);
+    QTRY_VERIFY(!submenu->property("visible").toBool());
+    QCOMPARE(window()->activeFocusItem()->property("text").toString(), u"More"_s);
+    press(Qt::Key_Escape);
+    QCOMPARE(window()->activeFocusItem(), button);
+    QVERIFY(hasRing(button));
+    // What is chosen closes both.
+    openBoth();
+    press(Qt::Key_Return);
+    QTRY_VERIFY(!menu->property("visible").toBool());
+    QCOMPARE(window()->activeFocusItem(), button);
+}
+
+void tst_Menus::focusThatWentElsewhereStays()
+{
+    QVERIFY(show("Item { WButton { objectName: 'button'; text: 'Opener' } TextInput { objectName: 'input' } "
+                 "WCoachmark { objectName: 'mark'; titleText: 'Title'; acquireFocusWhenShown: true } }"));
+    find(u"button"_s)->forceActiveFocus(Qt::TabFocusReason);
+    auto *mark = find<QObject>(u"mark"_s);
+    QVERIFY(QMetaObject::invokeMethod(mark, "open"));
+    QVERIFY(itemOf(mark, "closeButton")->hasActiveFocus());
+    find(u"input"_s)->forceActiveFocus(Qt::MouseFocusReason);
+    QVERIFY(QMetaObject::invokeMethod(mark, "close"));
+    QCOMPARE(window()->activeFocusItem(), find(u"input"_s));
+}
+
+void tst_Menus::focusIsNotGivenToWhatIsGone_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::newRow("hidden") << QByteArray("visible");
+    QTest::newRow("disabled") << QByteArray("enabled");
+    QTest::newRow("destroyed") << QByteArray();
+}
+
+void tst_Menus::focusIsNotGivenToWhatIsGone()
+{
+    QFETCH(const QByteArray, property);
+    QVERIFY(show("Item { FocusScope { WButton { objectName: 'button'; text: 'Opener' } } "
+                 "WMenu { objectName: 'menu'; WMenuItem { text: 'Entry' } } }"));
+    QPointer<QQuickItem> button = find(u"button"_s);
+    button->forceActiveFocus(Qt::TabFocusReason);
+    auto *menu = find<QObject>(u"menu"_s);
+    QVERIFY(QMetaObject::invokeMethod(menu, "open"));
+    if (property.isEmpty())
+        delete button;
+    else
+        button->setProperty(property, false);
+    press(Qt::Key_Escape);
+    QTRY_VERIFY(!menu->property("visible").toBool());
+    QVERIFY(!button || !button->hasActiveFocus());
+}
+
+void tst_Menus::whatTakesNoFocusReturnsNone_data()
+{
+    QTest::addColumn<QByteArray>("popup");
+    QTest::newRow("WToolTip") << QByteArray("WToolTip { text: 'Tip'; ");
+    QTest::newRow("WCoachmark") << QByteArray("WCoachmark { titleText: 'Title'; ");
+    QTest::newRow("LKMenu") << QByteArray("LKMenu { model: ['Entry']; visible: false; function open() { visible = "
+                                          "true; } function close() { visible = false; } ");
+}
+
+void tst_Menus::whatTakesNoFocusReturnsNone()
+{
+    QFETCH(const QByteArray, popup);
+    QVERIFY(show("Item { WButton { objectName: 'button'; text: 'Opener' } TextInput { objectName: 'input' }" + popup
+                 + "objectName: 'popup' } }"));
+    find(u"button"_s)->forceActiveFocus(Qt::TabFocusReason);
+    QSignalSpy changes(window(), &QQuickWindow::activeFocusItemChanged);
+    auto *shown = find<QObject>(u"popup"_s);
+    QVERIFY(QMetaObject::invokeMethod(shown, "open"));
+    QVERIFY(QMetaObject::invokeMethod(shown, "close"));
+    QTRY_VERIFY(!shown->property("visible").toBool());
+    QCOMPARE(changes.count(), 0);
+    // What has moved while it was shown stays there.
+    QVERIFY(QMetaObject::invokeMethod(shown, "open"));
+    find(u"input"_s)->forceActiveFocus(Qt::MouseFocusReason);
+    QVERIFY(QMetaObject::invokeMethod(shown, "close"));
+    QCOMPARE(window()->activeFocusItem(), find(u"input"_s));
 }
 
 LUMAKIT_TEST_MAIN(tst_Menus)

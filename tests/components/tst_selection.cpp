@@ -3,6 +3,8 @@
 #include <QAccessible>
 #include <QQmlProperty>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 class tst_Selection : public ComponentTest
@@ -39,6 +41,13 @@ private Q_SLOTS:
     void sliderShowsItsValue();
     void sliderColours();
     void sliderAccessibility();
+    void sliderMakesNothingBeforeItIsNeeded_data();
+    void sliderMakesNothingBeforeItIsNeeded();
+    void sliderDefaultsFollow_data();
+    void sliderDefaultsFollow();
+    void sliderKeepsWhatItIsGiven_data();
+    void sliderKeepsWhatItIsGiven();
+    void sliderTakesAnotherHandle();
 
     void comboBoxClosedByKeyboard_data();
     void comboBoxClosedByKeyboard();
@@ -51,6 +60,8 @@ private Q_SLOTS:
     void comboBoxTexts();
     void comboBoxMarksTheChosenRow();
     void comboBoxScrollsALongList();
+    void comboBoxRowsStandClearOfTheBar_data();
+    void comboBoxRowsStandClearOfTheBar();
     void comboBoxListDoesNotCoverTheBox_data();
     void comboBoxListDoesNotCoverTheBox();
     void comboBoxColours();
@@ -279,7 +290,8 @@ void tst_Selection::checkBoxShowsItsState()
     QCOMPARE(icons.size(), icon.isEmpty() ? 0 : 1);
     for (const QQuickItem *shown : icons) {
         QCOMPARE(shown->property("svgName").toString(), icon);
-        QCOMPARE(color(shown, "svgColor"), application()->getColorSet(u"checkbox-checked-icon"_s).normal);
+        const QString iconColor = application()->getColorSet(u"checkbox-checked-icon"_s).normal.name();
+        QCOMPARE(shown->property("source").toUrl().toString(), u"image://svg/%1/%2"_s.arg(iconColor, icon));
     }
     root()->setProperty("checkIconName", u"star"_s);
     for (const QQuickItem *shown : icons)
@@ -346,6 +358,9 @@ void tst_Selection::sliderByKeyboard_data()
     QTest::newRow("end") << int(Qt::Key_End) << false << 100.0;
     QTest::newRow("page up") << int(Qt::Key_PageUp) << false << 50.0;
     QTest::newRow("page down") << int(Qt::Key_PageDown) << false << 30.0;
+    QTest::newRow("up") << int(Qt::Key_Up) << false << 42.0;
+    QTest::newRow("down") << int(Qt::Key_Down) << false << 38.0;
+    QTest::newRow("up, mirrored") << int(Qt::Key_Up) << true << 42.0;
     QTest::newRow("another key") << int(Qt::Key_A) << false << 40.0;
 }
 
@@ -518,6 +533,117 @@ void tst_Selection::sliderAccessibility()
     QCOMPARE(interface->valueInterface()->maximumValue().toReal(), 20.0);
     interface->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
     QCOMPARE(root()->property("value").toReal(), 16.0);
+}
+
+void tst_Selection::sliderMakesNothingBeforeItIsNeeded_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    QTest::newRow("WSlider") << QByteArray("WSlider");
+    QTest::newRow("LKSlider") << QByteArray("LKSlider");
+}
+
+void tst_Selection::sliderMakesNothingBeforeItIsNeeded()
+{
+    QFETCH(const QByteArray, type);
+    QVERIFY(show("Item { WButton { text: 'Other' } " + type + " { objectName: 'slider'; to: 10 } }"));
+    auto *slider = find(u"slider"_s);
+    const auto counts = [slider](const char *kind) {
+        const auto objects = slider->findChildren<QObject *>();
+        return std::ranges::count_if(objects, [kind](const QObject *object) { return object->inherits(kind); });
+    };
+    // The handle, the bar and what is full of it.
+    QCOMPARE(counts("QQuickItem"), 3);
+    for (const char *kind : {"FocusRing", "QQuickToolTip", "QQmlComponent", "QQuickLoader"})
+        QCOMPARE(counts(kind), 0);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    QVERIFY(slider->hasActiveFocus());
+    QCOMPARE(counts("FocusRing"), 1);
+    QTRY_COMPARE(counts("QQuickToolTip"), 1);
+    // The ring goes around the handle.
+    const auto around = item(slider, "handle")->childItems();
+    QVERIFY(std::ranges::any_of(around, [](const QQuickItem *ring) { return ring->inherits("QQuickPaintedItem"); }));
+    press(Qt::Key_Tab);
+    QTRY_COMPARE(counts("QQuickToolTip"), 0);
+}
+
+void tst_Selection::sliderDefaultsFollow_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("before");
+    QTest::addColumn<QVariant>("after"); // with a range from 0 to 200
+    QTest::newRow("step size") << QByteArray("stepSize") << QVariant(0.01) << QVariant(2.0);
+    QTest::newRow("step of an arrow") << QByteArray("keyStep") << QVariant(0.01) << QVariant(2.0);
+    QTest::newRow("page") << QByteArray("pageSize") << QVariant(0.1) << QVariant(20.0);
+    QTest::newRow("decimals") << QByteArray("decimals") << QVariant(2) << QVariant(0);
+    QTest::newRow("tooltip") << QByteArray("tooltip") << QVariant(u"0.50"_s) << QVariant(u"1"_s);
+    QTest::newRow("end of the range") << QByteArray("maximumValue") << QVariant(1.0) << QVariant(200.0);
+}
+
+void tst_Selection::sliderDefaultsFollow()
+{
+    QFETCH(const QByteArray, property);
+    QFETCH(const QVariant, before);
+    QFETCH(const QVariant, after);
+    QVERIFY(show("WSlider { id: slider; locale: Qt.locale('C'); value: 0.5; property var bound: slider." + property
+                 + " }"));
+    QCOMPARE(root()->property(property), before);
+    QCOMPARE(root()->property("bound"), before);
+    root()->setProperty("value", 0.6);
+    root()->setProperty("to", 200);
+    QCOMPARE(root()->property(property), after);
+    QCOMPARE(root()->property("bound"), after);
+}
+
+void tst_Selection::sliderKeepsWhatItIsGiven_data()
+{
+    QTest::addColumn<QByteArray>("qml");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("step size") << QByteArray("stepSize: 3") << QByteArray("stepSize") << QVariant(3.0);
+    QTest::newRow("that of the usual range")
+        << QByteArray("stepSize: 0.01") << QByteArray("stepSize") << QVariant(0.01);
+    QTest::newRow("no step size") << QByteArray("stepSize: 0") << QByteArray("stepSize") << QVariant(0.0);
+    QTest::newRow("step of an arrow") << QByteArray("keyStep: 7") << QByteArray("keyStep") << QVariant(7.0);
+    QTest::newRow("page") << QByteArray("pageSize: 7") << QByteArray("pageSize") << QVariant(7.0);
+    QTest::newRow("decimals") << QByteArray("decimals: 1") << QByteArray("decimals") << QVariant(1);
+    QTest::newRow("tooltip") << QByteArray("tooltip: 'Loud'") << QByteArray("tooltip") << QVariant(u"Loud"_s);
+    QTest::newRow("radius") << QByteArray("handleRadius: 2") << QByteArray("handleRadius") << QVariant(2.0);
+    QTest::newRow("place") << QByteArray("handleX: 30") << QByteArray("handleX") << QVariant(30.0);
+    QTest::newRow("width") << QByteArray("implicitWidth: 90") << QByteArray("implicitWidth") << QVariant(90.0);
+    QTest::newRow("height") << QByteArray("implicitHeight: 50") << QByteArray("implicitHeight") << QVariant(50.0);
+}
+
+void tst_Selection::sliderKeepsWhatItIsGiven()
+{
+    QFETCH(const QByteArray, qml);
+    QFETCH(const QByteArray, property);
+    QFETCH(const QVariant, value);
+    QVERIFY(show("LKSlider { " + qml + "; to: 50; value: 20 }"));
+    QCOMPARE(root()->property(property), value);
+    root()->setProperty("to", 200);
+    root()->setProperty("value", 30);
+    root()->setProperty("handleWidth", 24);
+    QCOMPARE(root()->property(property), value);
+    if (property == "handleX")
+        QCOMPARE(item(root(), "handle")->x(), 30.0);
+}
+
+void tst_Selection::sliderTakesAnotherHandle()
+{
+    QVERIFY(
+        show("WSlider { id: slider; width: 124; value: 0.5; handle: Rectangle { x: slider.handleX; y: slider.handleY; "
+             "width: 16; height: 16; color: 'red' } }"));
+    const auto *handle = item(root(), "sliderHandle");
+    QCOMPARE(color(handle, "color"), QColor(Qt::red));
+    QCOMPARE(handle->position(), QPointF(54, 4));
+    press(Qt::Key_Tab);
+    const auto rings = handle->childItems();
+    QVERIFY(std::ranges::any_of(rings, [](const QQuickItem *ring) { return ring->inherits("QQuickPaintedItem"); }));
+    press(Qt::Key_Home);
+    QCOMPARE(handle->position(), QPointF(4, 4));
+    const auto *bar = item(root(), "background")->childItems().constFirst();
+    QCOMPARE(bar->width(), 0.0);
 }
 
 namespace {
@@ -713,6 +839,50 @@ void tst_Selection::comboBoxScrollsALongList()
     QTRY_COMPARE_LT(popup(root())->property("height").toReal(), 100.0);
     QVERIFY(!bar->isVisible());
     QTRY_COMPARE(row(0)->width(), list->width());
+}
+
+void tst_Selection::comboBoxRowsStandClearOfTheBar_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<bool>("mirrored");
+    for (const QByteArray type : {"WComboBox", "LKComboBox"}) {
+        QTest::newRow(type) << type << false;
+        QTest::newRow(type + ", mirrored") << type << true;
+    }
+}
+
+void tst_Selection::comboBoxRowsStandClearOfTheBar()
+{
+    QFETCH(const QByteArray, type);
+    QFETCH(const bool, mirrored);
+    QVERIFY(show(type
+                 + " { property bool rtl; LayoutMirroring.enabled: rtl; LayoutMirroring.childrenInherit: true; "
+                   "model: 20; popupMaxHeight: 100 }"));
+    root()->setProperty("rtl", mirrored);
+    QMetaObject::invokeMethod(popup(root()), "open");
+    QTRY_VERIFY(row(1));
+    auto *list = item(popup(root()), "contentItem");
+    const auto *bar = itemsWith(list->parentItem(), "arrowVisible").constFirst();
+    const auto rectOf = [list](const QQuickItem *shown) {
+        return shown->mapRectToItem(list, QRectF(QPointF(), shown->size()));
+    };
+    QTRY_COMPARE(rectOf(bar).left(), mirrored ? 0.0 : list->width() - bar->width());
+    for (const int index : {0, 1}) {
+        QTRY_COMPARE(rectOf(row(index)).left(), mirrored ? bar->width() : 0.0);
+        QCOMPARE(row(index)->width(), list->width() - bar->width());
+    }
+    const auto *tick = itemsWith(row(0), "svgName").constFirst();
+    QVERIFY(!rectOf(tick).intersects(rectOf(bar)));
+    // What scrolls in stands there too, and everything follows the direction.
+    list->setProperty("contentY", 64);
+    QTRY_VERIFY(row(4));
+    QCOMPARE(rectOf(row(4)).left(), mirrored ? bar->width() : 0.0);
+    root()->setProperty("rtl", !mirrored);
+    QTRY_COMPARE(rectOf(bar).left(), mirrored ? list->width() - bar->width() : 0.0);
+    QTRY_VERIFY(row(4) && rectOf(row(4)).left() == (mirrored ? 0.0 : bar->width()));
+    root()->setProperty("model", 1);
+    QTRY_VERIFY(row(0) && row(0)->width() == list->width());
+    QCOMPARE(rectOf(row(0)).left(), 0.0);
 }
 
 void tst_Selection::comboBoxListDoesNotCoverTheBox_data()

@@ -213,6 +213,9 @@ void tst_LKPillButtonData::values()
     QCOMPARE(data.property("font").value<QFont>(), QFont(font));
     QVERIFY(data.setProperty("font", QFont(WFont(WFont::Display, false))));
     QCOMPARE(data.font(), WFont(WFont::Display, false));
+    QCOMPARE(data.property("font").value<WFont>(), WFont(WFont::Display, false));
+    QVERIFY(data.setProperty("font", QVariant::fromValue(font)));
+    QCOMPARE(data.font(), font);
 }
 
 void tst_LKPillButtonData::fontScaleFactor()
