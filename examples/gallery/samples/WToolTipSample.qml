@@ -17,28 +17,30 @@ GallerySample {
 
         WToolTip {
             text: "Arrow below"
-            visible: sample.opensPopups || ((parent as WButton)?.hovered ?? false)
+            visible: sample.opensPopups || above.hovered
             closePolicy: WToolTip.NoAutoClose
         }
     }
     WButton {
+        id: beside
         text: "Beside"
 
         WToolTip {
             text: "To the right"
             arrowAnchor: WBalloon.Left
-            visible: sample.opensPopups || ((parent as WButton)?.hovered ?? false)
+            visible: sample.opensPopups || beside.hovered
             closePolicy: WToolTip.NoAutoClose
         }
     }
     WButton {
+        id: below
         text: "Below"
 
         WToolTip {
             text: "<b>A long text</b> wraps at its maximum width and shows markup as it stands"
             arrowAnchor: WBalloon.Top
             maximumWidth: 200
-            visible: sample.opensPopups || ((parent as WButton)?.hovered ?? false)
+            visible: sample.opensPopups || below.hovered
             closePolicy: WToolTip.NoAutoClose
         }
     }
