@@ -1,5 +1,5 @@
-// Two round icon buttons in one frame, side by side or one above the other, such as those that zoom in and out. The arrow
-// keys go from one to the other.
+// Two round icon buttons in one frame, side by side or one above the other, such as those that zoom in and out. The
+// arrow keys go from one to the other.
 //
 //     LKDualIconButton {
 //         horizontal: false

@@ -155,7 +155,8 @@ WToolTip {
             readonly property bool isCurrent: activeFocus && ListView.isCurrentItem
 
             width: list.rowWidth
-            implicitHeight: Math.max(control.delegateHeight, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
+            implicitHeight: Math.max(control.delegateHeight,
+                                     Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
             horizontalPadding: 8
             rightPadding: cancel.active && !mirrored ? 28 : 8
             leftPadding: cancel.active && mirrored ? 28 : 8
@@ -174,7 +175,7 @@ WToolTip {
             font: FontConstants.bodySecondary
 
             Accessible.role: Accessible.MenuItem
-            Accessible.onPressAction: click()
+            Accessible.onPressAction: row.click()
 
             onHoveredChanged: {
                 if (hovered)

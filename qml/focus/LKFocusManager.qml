@@ -159,7 +159,7 @@ FocusScope {
 
     // Internal. The managed item at an index, a Loader as it is.
     function itemAt(index: int): var {
-        return isManagingListView() ? focusableItems.itemAtIndex(index) : focusableItems[index];
+        return isManagingListView() ? focusableItems.itemAtIndex(index) : focusableItems?.[index];
     }
 
     // Scrolls a list to an item, which makes its delegate.

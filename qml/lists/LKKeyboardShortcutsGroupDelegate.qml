@@ -34,12 +34,19 @@ Item {
     // `around` is the button.
     signal moreButtonClicked(index: int, around: Item)
 
+    function widestRow(): real {
+        let widest = 0;
+        for (let i = 0; i < rows.count; ++i)
+            widest = Math.max(widest, rows.itemAt(i)?.implicitWidth ?? 0);
+        return widest;
+    }
+
     function toggle(): void {
         collapsed = !collapsed;
         toggled();
     }
 
-    implicitWidth: content.implicitWidth
+    implicitWidth: Math.ceil(Math.max(headerButton.implicitWidth, widestRow()))
     implicitHeight: content.implicitHeight
 
     Accessible.role: Accessible.Grouping
@@ -113,6 +120,8 @@ Item {
             }
         }
         Repeater {
+            id: rows
+
             model: root.collapsed ? null : root.items
 
             LKKeyboardShortcutsItemDelegate {
@@ -121,17 +130,17 @@ Item {
 
                 width: root.width
                 themeType: root.themeType
-                title: modelData.title ?? ""
-                moreButtonIsVisible: modelData.moreButtonIsVisible ?? false
-                moreButtonIsEnabled: modelData.moreButtonIsEnabled ?? true
-                moreButtonTooltipText: modelData.moreButtonTooltipText ?? qsTr("More")
-                addButtonIsVisible: modelData.addButtonIsVisible ?? false
-                addButtonIsEnabled: modelData.addButtonIsEnabled ?? true
-                addButtonText: modelData.addButtonText ?? ""
-                globalLabelIsVisible: modelData.globalLabelIsVisible ?? false
-                globalLabelText: modelData.globalLabelText ?? ""
-                keySequence: modelData.keySequence ?? ""
-                enabled: modelData.enabled ?? true
+                title: modelData?.title ?? ""
+                moreButtonIsVisible: modelData?.moreButtonIsVisible ?? false
+                moreButtonIsEnabled: modelData?.moreButtonIsEnabled ?? true
+                moreButtonTooltipText: modelData?.moreButtonTooltipText ?? qsTr("More")
+                addButtonIsVisible: modelData?.addButtonIsVisible ?? false
+                addButtonIsEnabled: modelData?.addButtonIsEnabled ?? true
+                addButtonText: modelData?.addButtonText ?? ""
+                globalLabelIsVisible: modelData?.globalLabelIsVisible ?? false
+                globalLabelText: modelData?.globalLabelText ?? ""
+                keySequence: modelData?.keySequence ?? ""
+                enabled: modelData?.enabled ?? true
                 onClicked: root.itemClicked(index)
                 onAddButtonClicked: root.addButtonClicked(index)
                 onMoreButtonClicked: around => root.moreButtonClicked(index, around)

@@ -50,6 +50,12 @@ WRectangle {
             clicked();
     }
 
+    // The width beside the title, less than what it needs only where there is no more; `others` come first.
+    function widthFor(part: Item, others: list<Item>): real {
+        const taken = others.reduce((sum, other) => sum + (other.visible ? other.width + row.spacing : 0), row.spacing);
+        return Math.max(0, Math.min(part.implicitWidth, row.width - taken));
+    }
+
     implicitWidth: Math.ceil(row.implicitWidth) + row.anchors.leftMargin + row.anchors.rightMargin
     implicitHeight: Math.max(40, Math.ceil(row.implicitHeight) + 8)
     radius: 4
@@ -100,6 +106,11 @@ WRectangle {
             Accessible.ignored: true
         }
         Loader {
+            id: globalLabel
+
+            Layout.fillWidth: true
+            Layout.minimumWidth: root.widthFor(globalLabel, [keys, addButton, moreButton])
+            Layout.maximumWidth: implicitWidth
             active: root.globalLabelIsVisible
             visible: active
             sourceComponent: LKTag {
@@ -109,19 +120,25 @@ WRectangle {
             }
         }
         Loader {
+            id: keys
+
+            Layout.fillWidth: true
+            Layout.minimumWidth: root.widthFor(keys, [moreButton])
+            Layout.maximumWidth: implicitWidth
             active: root.keySequence !== ""
             visible: active
             sourceComponent: WFrame {
-                implicitWidth: Math.ceil(keys.implicitWidth) + 16
-                implicitHeight: Math.max(24, Math.ceil(keys.implicitHeight) + 4)
+                implicitWidth: Math.ceil(label.implicitWidth) + 16
+                implicitHeight: Math.max(24, Math.ceil(label.implicitHeight) + 4)
                 radius: 4
                 backgroundColorSetName: "shortcutinput-inactive-background"
                 borderColorSetName: "shortcutinput-inactive-border"
 
-                WText {
-                    id: keys
+                WTextElide {
+                    id: label
 
                     anchors.centerIn: parent
+                    width: Math.min(implicitWidth, parent.width - 16)
                     text: root.keySequence
                     textColorSetName: "shortcutinput-inactive-text"
                     Accessible.ignored: true
@@ -129,6 +146,11 @@ WRectangle {
             }
         }
         Loader {
+            id: addButton
+
+            Layout.fillWidth: true
+            Layout.minimumWidth: root.widthFor(addButton, [moreButton])
+            Layout.maximumWidth: implicitWidth
             active: root.addButtonIsVisible && root.keySequence === ""
             visible: active
             sourceComponent: WButton {
@@ -141,16 +163,18 @@ WRectangle {
             }
         }
         Loader {
+            id: moreButton
+
             active: root.moreButtonIsVisible
             visible: active
             sourceComponent: LKRoundButton {
-                id: moreButton
+                id: button
 
                 buttonIcon: "more-horizontal-bold"
                 buttonStyle: LKButtonStyle.Ghost
                 buttonSize: LKButtonSize.XS
                 enabled: root.moreButtonIsEnabled
-                onClicked: root.moreButtonClicked(moreButton)
+                onClicked: root.moreButtonClicked(button)
 
                 Accessible.name: root.moreButtonTooltipText
 

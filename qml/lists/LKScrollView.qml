@@ -41,8 +41,8 @@ T.ScrollView {
     }
 
     // In this order: a contentWidth that depends on the paddings comes after them.
-    implicitWidth: leftPadding + rightPadding + contentWidth
-    implicitHeight: contentHeight + topPadding
+    implicitWidth: leftPadding + rightPadding + Math.max(0, contentWidth)
+    implicitHeight: Math.max(0, contentHeight) + topPadding
     leftPadding: mirrored ? verticalRoom : 0
     rightPadding: mirrored ? 0 : verticalRoom
     bottomPadding: contentWidth > availableWidth ? horizontal.implicitHeight : 0

@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
-// A list with a scroll bar beside it, which the wheel scrolls by lines and the keyboard moves in by the arrows, Home, End,
-// PageUp and PageDown. An empty model shows an empty state.
+// A list with a scroll bar beside it, which the wheel scrolls by lines and the keyboard moves in by the arrows, Home,
+// End, PageUp and PageDown. An empty model shows an empty state.
 //
 //     WListView {
 //         listView.model: contacts

@@ -56,6 +56,9 @@ Item {
     property font font: FontConstants.subheaderSecondary
     readonly property int count: model?.length ?? 0
     readonly property var widths: Array.from({ length: count }, (_, index) => widthOf(index))
+    // Of a tab that is alone, but for the "more" button; its text is elided.
+    readonly property real maximumWidth: Math.max(lineHeight, width - 2 * containerPadding
+                                                              - (more.active ? lineHeight + spacing : 0))
     readonly property int lineHeight: Math.max(tabHeight, Math.ceil(metrics.height) + 8)
     // The indexes of the tabs in sight, and of those in the list.
     readonly property var shown: fitting()
@@ -71,7 +74,7 @@ Item {
     signal shouldSaveFocusState
 
     function entry(index: int): var {
-        const value = model[index];
+        const value = model?.[index];
         return typeof value === "string" ? { text: value } : value ?? {};
     }
 
@@ -199,7 +202,7 @@ Item {
                 readonly property int place: root.shown[index] ?? -1
                 readonly property var entry: root.entry(place)
 
-                width: root.widths[place] ?? 0
+                width: Math.min(root.widths[place] ?? 0, root.maximumWidth)
                 height: root.lineHeight
                 horizontalPadding: root.tabPadding
                 enabled: entry.enabled ?? true
@@ -221,7 +224,7 @@ Item {
                 onTriggered: root.choose(place)
 
                 Accessible.role: Accessible.PageTab
-                Accessible.onPressAction: click()
+                Accessible.onPressAction: tab.click()
                 Accessible.selectable: true
                 Accessible.selected: checked
             }

@@ -48,7 +48,7 @@ T.Pane {
     // The width of the widest entry there has been.
     property real widestEntry: 0
     // Between the menu's edge and its entries.
-    readonly property int inset: 4 + borderWidth
+    readonly property real inset: 4 + Math.round(borderWidth * Screen.devicePixelRatio) / Screen.devicePixelRatio
 
     // By mouse, Space, Enter, Return or a screen reader.
     signal selectItem(int index)
@@ -76,8 +76,8 @@ T.Pane {
         return all;
     }
 
-    // Makes the first entry that can be chosen the current one, from `start`, at least -1, in steps of `step`, round the
-    // ends.
+    // Makes the first entry that can be chosen the current one, from `start`, at least -1, in steps of `step`, round
+    // the ends.
     function moveFrom(start: int, step: int): void {
         for (let i = 0; i < modelCount; ++i) {
             const index = (start + i * step + modelCount) % modelCount;
@@ -102,9 +102,15 @@ T.Pane {
             widestEntry = Math.max(widestEntry, list.itemAtIndex(i)?.implicitWidth ?? 0);
     }
 
-    implicitWidth: Math.max(minimumWidth, Math.min(maximumWidth, Math.ceil(widestEntry) + scrollBar.width))
-                   + leftPadding + rightPadding
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    // Whole pixels, of the screen too: with a fraction the border would be thicker at the end.
+    function roundedUp(length: real): real {
+        const grid = Number.isInteger(Screen.devicePixelRatio) ? 1 : 4;
+        return Math.ceil(length / grid) * grid;
+    }
+
+    implicitWidth: roundedUp(Math.max(minimumWidth, Math.min(maximumWidth, Math.ceil(widestEntry) + scrollBar.width))
+                             + leftPadding + rightPadding)
+    implicitHeight: roundedUp(implicitContentHeight + topPadding + bottomPadding)
     topPadding: inset + (arrowAnchor === WBalloon.Top ? arrowSize : 0)
     bottomPadding: inset + (arrowAnchor === WBalloon.Bottom ? arrowSize : 0)
     leftPadding: inset + (arrowAnchor === WBalloon.Left ? arrowSize : 0)

@@ -15,9 +15,9 @@ WMenuSeparator {
 
     backgroundColorSetName: "separator-primary"
 
-    contentItem: WRectangle {
-        implicitHeight: 1
+    contentItem: WSeparator {
         themeType: control.themeType
         backgroundColorSetName: control.backgroundColorSetName
+        Accessible.ignored: true
     }
 }

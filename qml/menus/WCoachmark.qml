@@ -1,4 +1,5 @@
-// A balloon that explains the item it is declared in, until the user closes it.
+// A balloon that explains the item it is declared in, until the user closes it. Texts that are higher than the window
+// scroll.
 //
 //     LKRoundButton {
 //         id: whiteboard
@@ -22,7 +23,7 @@ WToolTip {
     property string titleText: ""
     property string bodyText: ""
     // What a screen reader says when it is shown.
-    property string accessibleName: titleText === "" || bodyText === "" ? titleText + bodyText : titleText + ". " + bodyText
+    property string accessibleName: titleText + (titleText === "" || bodyText === "" ? "" : ". ") + bodyText
     property string titleTextColorSetName: "coachmarkteaching-button-secondary-text"
     property string bodyTextColorSetName: "coachmarkteaching-button-secondary-text"
     property font titleFont: FontConstants.highlightPrimary
@@ -70,39 +71,59 @@ WToolTip {
         LayoutMirroring.childrenInherit: true
 
         Keys.onEscapePressed: control.closeByUser(true)
+        Keys.onUpPressed: bar.scrollBy(-bar.size / 4)
+        Keys.onDownPressed: bar.scrollBy(bar.size / 4)
 
-        Column {
-            id: texts
+        Flickable {
+            id: view
+
+            readonly property real barRoom: bar.visible ? bar.width : 0
 
             anchors.left: parent.left
             anchors.right: button.left
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
             anchors.rightMargin: 8
-            topPadding: 2
-            spacing: 4
-
-            WText {
-                id: title
-
-                objectName: control.coachMarkTitleObjName
-                width: parent.width
-                visible: text !== ""
-                text: control.titleText
-                textColorSetName: control.titleTextColorSetName
-                font: control.titleFont
-                wrapMode: Text.Wrap
-
-                Accessible.role: Accessible.Heading
+            contentHeight: texts.height
+            interactive: contentHeight > height
+            clip: interactive
+            boundsBehavior: Flickable.StopAtBounds
+            T.ScrollBar.vertical: LKScrollBar {
+                id: bar
             }
-            WText {
-                id: body
 
-                objectName: control.coachMarkBodyObjName
-                width: parent.width
-                visible: text !== ""
-                text: control.bodyText
-                textColorSetName: control.bodyTextColorSetName
-                font: control.bodyFont
-                wrapMode: Text.Wrap
+            Column {
+                id: texts
+
+                x: bar.mirrored ? view.barRoom : 0
+                width: view.width - view.barRoom
+                topPadding: 2
+                spacing: 4
+
+                WText {
+                    id: title
+
+                    objectName: control.coachMarkTitleObjName
+                    width: parent.width
+                    visible: text !== ""
+                    text: control.titleText
+                    textColorSetName: control.titleTextColorSetName
+                    font: control.titleFont
+                    wrapMode: Text.Wrap
+
+                    Accessible.role: Accessible.Heading
+                }
+                WText {
+                    id: body
+
+                    objectName: control.coachMarkBodyObjName
+                    width: parent.width
+                    visible: text !== ""
+                    text: control.bodyText
+                    textColorSetName: control.bodyTextColorSetName
+                    font: control.bodyFont
+                    wrapMode: Text.Wrap
+                }
             }
         }
         WSvgIconButton {

@@ -30,8 +30,10 @@ T.Menu {
     property int borderWidth: 1
     property var themeType: App.themeMode
     property var backgroundColorSet: themeType === undefined ? null : App.getColorSet(backgroundColorSetName)
-    property var backgroundBolderColorSet: themeType === undefined ? null : App.getColorSet(backgroundBolderColorSetName)
+    property var backgroundBolderColorSet: themeType === undefined ? null
+                                                                   : App.getColorSet(backgroundBolderColorSetName)
     readonly property TypeAhead typeAhead: TypeAhead {}
+    readonly property real screenRatio: contentItem?.Screen.devicePixelRatio ?? 1
 
     // What is typed: the letters that follow each other within a second; for the library's other lists too.
     component TypeAhead: Timer {
@@ -109,7 +111,8 @@ T.Menu {
     x: mirrored && parent ? parent.width - width : 0
     implicitWidth: Math.max(minimumWidth, Math.min(maximumWidth, Math.ceil(widestEntry()) + leftPadding + rightPadding))
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    padding: menuPaddings + borderWidth
+    // With the border in whole pixels of the screen, so that the entries begin at one.
+    padding: menuPaddings + Math.round(borderWidth * screenRatio) / screenRatio
     margins: 4
     overlap: 4
     delegate: WMenuItem {}

@@ -27,8 +27,8 @@ T.MenuSeparator {
 
     Accessible.role: Accessible.Separator
 
-    contentItem: WRectangle {
-        implicitHeight: 1
+    contentItem: WSeparator {
         backgroundColorSetName: control.backgroundColorSetName
+        Accessible.ignored: true
     }
 }

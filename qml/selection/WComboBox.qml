@@ -48,7 +48,8 @@ T.ComboBox {
     property string delegateItemColorSetName: "listitem-background"
     property string focusColorSetName: "global-focus-outline"
     property var themeType: App.themeMode
-    property var backgroundBorderColorSet: themeType === undefined ? null : App.getColorSet(backgroundBorderColorSetName)
+    property var backgroundBorderColorSet: themeType === undefined ? null
+                                                                   : App.getColorSet(backgroundBorderColorSetName)
     property var backgroundColorSet: themeType === undefined ? null : App.getColorSet(backgroundColorSetName)
     property var textSelectedColorSet: themeType === undefined ? null : App.getColorSet(textSelectedColorSetName)
     property var textColorSet: themeType === undefined ? null : App.getColorSet(textColorSetName)
@@ -91,6 +92,11 @@ T.ComboBox {
     font: FontConstants.bodySecondary
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
+
+    onEnabledChanged: {
+        if (!enabled)
+            popup.close();
+    }
 
     Keys.onPressed: event => {
         const isOpener = event.key === Qt.Key_F4

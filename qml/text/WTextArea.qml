@@ -38,6 +38,8 @@ T.TextArea {
     // How far the text is scrolled from its left and top, pixels. The paddings there follow it: set `padding`.
     property real scrollX: 0
     property real scrollY: 0
+    // Where nothing else sets the width, pixels.
+    readonly property real naturalWidth: Math.max(200, Math.ceil(placeholder.implicitWidth) + 2 * padding)
 
     function stateColor(colorSet: var): color {
         return colorSet?.isValid ? ThemeUtils.getTextFieldColor(stateItem ?? control, colorSet) : "transparent";
@@ -66,7 +68,9 @@ T.TextArea {
             cursorPosition = position;
     }
 
-    implicitWidth: Math.max(200, Math.ceil(placeholder.implicitWidth) + 2 * padding)
+    implicitWidth: naturalWidth
+    // Without one the document has none either, to wrap and to align in. The implicit one would cost a second layout.
+    width: naturalWidth
     implicitHeight: Math.max(minimumHeight, Math.ceil(contentHeight) + 2 * padding)
     clip: true
     padding: 8
@@ -139,7 +143,10 @@ T.TextArea {
     WheelHandler {
         target: null
         enabled: control.contentHeight + 2 * control.padding > control.height
-        onWheel: event => control.scrollBy(0, -(event.pixelDelta.y || event.angleDelta.y / 40 * control.cursorRectangle.height))
+        onWheel: event => {
+            const lines = event.angleDelta.y / 40;
+            control.scrollBy(0, -(event.pixelDelta.y || lines * control.cursorRectangle.height));
+        }
     }
     FocusRing {
         radius: control.radius

@@ -21,8 +21,8 @@ public:
 protected:
     AccessibleOnDemand();
 
-    /// To be called when the component is complete. From then on it can be exposed; it is at once, if there is somebody,
-    /// or if QML has said something of it: Qt does not ask a second time.
+    /// To be called when the component is complete. From then on it can be exposed; it is at once, if there is
+    /// somebody, or if QML has said something of it: Qt does not ask a second time.
     void setComplete(const QQuickItem *item);
     /// Sets role and name, where QML has not, and keeps the name up to date.
     virtual void setAccessibility() = 0;

@@ -1,11 +1,13 @@
 #include "ButtonBackground.h"
 
+#include "ILKButtonData.h"
 #include "LKColorData.h"
+#include "LKIconButtonData.h"
 
 #include <algorithm>
 
 ButtonBackground::ButtonBackground(QQuickItem *parent)
-    : QQuickRectangle(parent)
+    : Face(parent)
 {
 }
 
@@ -25,6 +27,10 @@ void ButtonBackground::setButtonData(QObject *buttonData)
             if (color)
                 connect(color, &LKColorData::colorChanged, this, &ButtonBackground::updateColors);
         }
+        if (const auto *data = qobject_cast<ILKButtonData *>(buttonData))
+            connect(data, &ILKButtonData::borderChanged, this, &ButtonBackground::updateColors);
+        else if (const auto *iconData = qobject_cast<LKIconButtonData *>(buttonData))
+            connect(iconData, &LKIconButtonData::borderChanged, this, &ButtonBackground::updateColors);
         updateColors();
     }
     Q_EMIT buttonDataChanged();
@@ -32,7 +38,7 @@ void ButtonBackground::setButtonData(QObject *buttonData)
 
 void ButtonBackground::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
-    QQuickRectangle::geometryChange(newGeometry, oldGeometry);
+    Face::geometryChange(newGeometry, oldGeometry);
     if (m_roundEnds)
         setRadius(std::min(newGeometry.width(), newGeometry.height()) / 2);
 }
@@ -44,7 +50,7 @@ void ButtonBackground::updateColors()
     if (const LKColorData *background = m_data->backgroundColorData())
         setColor(background->color());
     const LKColorData *borderData = m_data->borderColorData();
-    const bool hasBorder = borderData && borderData->color().alpha() > 0;
+    const bool hasBorder = m_data->border() && borderData && borderData->color().alpha() > 0;
     if (!hasBorder && !m_hasBorder)
         return; // asking for the pen would make one
     m_hasBorder = true;

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "Face.h"
 #include "LKButtonColors.h"
 
 #include <QPointer>
 
-#include <QtQuick/private/qquickrectangle_p.h>
-
-/// The background of a button: a rectangle in the colours of its button data.
-class ButtonBackground : public QQuickRectangle
+/// The background of a button, in the colours of its button data, with a border if those have one.
+class ButtonBackground : public Face
 {
     Q_OBJECT
     /// The button data; an ILKButtonData or an LKIconButtonData. Set it once.

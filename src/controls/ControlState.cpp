@@ -5,8 +5,8 @@
 
 #include <QCoreApplication>
 #include <QJSValue>
-#include <QMetaProperty>
 #include <QPointer>
+#include <QQmlProperty>
 
 #include <array>
 #include <utility>
@@ -74,13 +74,8 @@ public:
 private:
     void watch(QObject *object)
     {
-        static const QMetaMethod reaction = staticMetaObject.method(staticMetaObject.indexOfSlot("onFlagChanged()"));
-        const QMetaObject *meta = object->metaObject();
-        for (const Flag &flag : Flags) {
-            const int index = meta->indexOfProperty(flag.name);
-            if (index >= 0 && meta->property(index).hasNotifySignal())
-                connect(object, meta->property(index).notifySignal(), this, reaction);
-        }
+        for (const Flag &flag : Flags)
+            QQmlProperty(object, QLatin1StringView(flag.name)).connectNotifySignal(this, SLOT(onFlagChanged()));
         connect(object, &QObject::destroyed, this, [this] {
             if (m_state)
                 m_state->setTarget({});
@@ -149,7 +144,7 @@ void ControlState::setThemeType(const QVariant &themeType)
 
 QVariant ControlState::target() const
 {
-    return m_target ? m_target->value() : QVariant();
+    return m_target ? m_target->value() : QVariant::fromValue(nullptr);
 }
 
 void ControlState::setTarget(const QVariant &target)

@@ -1,5 +1,6 @@
 #include "FocusRing.h"
 
+#include "DevicePixels.h"
 #include "IWApplication.h"
 #include "WThemeUtils.h"
 
@@ -20,25 +21,46 @@ class RingItem : public QQuickPaintedItem
 public:
     using QQuickPaintedItem::QQuickPaintedItem;
 
-    void setRing(const QColor &color, double radius)
+    struct Ring
     {
-        m_color = color.isValid() ? color : QColor(Qt::transparent); // no colour set, no ring
-        m_radius = radius;
+        QColor color;
+        QSizeF size;
+        double thickness = 0;
+        double radius = 0;
+
+        bool operator==(const Ring &) const = default;
+    };
+
+    void setRing(const Ring &ring)
+    {
+        if (ring == m_ring)
+            return;
+        m_ring = ring;
         update();
     }
 
     void paint(QPainter *painter) override
     {
-        constexpr double Half = Thickness / 2;
+        const double half = m_ring.thickness / 2;
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(m_color, Thickness));
-        painter->drawRoundedRect(QRectF(QPointF(), size()).adjusted(Half, Half, -Half, -Half), m_radius, m_radius);
+        painter->setPen(QPen(m_ring.color, m_ring.thickness));
+        painter->drawRoundedRect(QRectF(QPointF(), m_ring.size).adjusted(half, half, -half, -half), m_ring.radius,
+                                 m_ring.radius);
     }
 
 private:
-    QColor m_color;
-    double m_radius = 0;
+    Ring m_ring;
 };
+
+// The size of a painted item that is drawn pixel by pixel: whole, and so in pixels of the device, if its ratio has
+// steps of 5 %.
+QSizeF paintedSize(const QSizeF &size, double ratio)
+{
+    constexpr double Step = 20;
+    if (DevicePixels::isWhole(ratio))
+        return size;
+    return {std::ceil(size.width() / Step) * Step, std::ceil(size.height() / Step) * Step};
+}
 
 bool isFromKeyboard(Qt::FocusReason reason)
 {
@@ -192,8 +214,9 @@ void FocusRing::show()
     if (m_ring || !item)
         return;
     m_ring = new RingItem(item);
-    connect(item, &QQuickItem::widthChanged, m_ring, [this] { updateRing(); });
-    connect(item, &QQuickItem::heightChanged, m_ring, [this] { updateRing(); });
+    for (const auto signal :
+         {&QQuickItem::widthChanged, &QQuickItem::heightChanged, &QQuickItem::xChanged, &QQuickItem::yChanged})
+        connect(item, signal, m_ring, [this] { updateRing(); });
     if (auto *application = qobject_cast<IWApplication *>(QCoreApplication::instance()))
         connect(application, &IWApplication::themeModeChanged, m_ring, [this] { updateRing(); });
     updateRing();
@@ -214,11 +237,20 @@ void FocusRing::updateRing()
 {
     if (!m_ring)
         return;
-    const double margin = m_offset + Thickness;
-    const QSizeF inner = m_ring->parentItem()->size();
-    m_ring->setPosition({-margin, -margin});
-    m_ring->setSize(inner + QSizeF(2 * margin, 2 * margin));
+    const QQuickItem *item = m_ring->parentItem();
+    const double ratio = DevicePixels::ratioOf(item);
+    const double thickness = DevicePixels::rounded(Thickness, ratio);
+    const double offset = DevicePixels::rounded(m_offset, ratio);
+    const double margin = offset + thickness;
+    const QPointF place = item->mapToScene({});
+    const QRectF inner = DevicePixels::rounded(QRectF(place, item->size()), ratio).translated(-place);
+    const QRectF outer = inner.adjusted(-margin, -margin, margin, margin);
+    m_ring->setPosition(outer.topLeft());
+    m_ring->setSize(paintedSize(outer.size(), ratio));
+    const QColor color = WThemeUtils::findColorSet(m_colorSetName).normal;
     static_cast<RingItem *>(m_ring.data())
-        ->setRing(WThemeUtils::findColorSet(m_colorSetName).normal,
-                  std::max(0.0, m_radius + m_offset + Thickness / 2));
+        ->setRing({.color = color.isValid() ? color : QColor(Qt::transparent), // no colour set, no ring
+                   .size = outer.size(),
+                   .thickness = thickness,
+                   .radius = std::max(0.0, m_radius + offset + thickness / 2)});
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AccessibleOnDemand.h"
+#include "AliasSignals.h"
 #include "FocusRing.h"
 
 #include <QStyle>
@@ -95,6 +96,12 @@ protected:
     {
         Base::accessibilityActiveChanged(active);
         updateName(); // to the base it is the text in any case
+    }
+
+    void connectNotify(const QMetaMethod &signal) override
+    {
+        Base::connectNotify(signal);
+        connectAlias(this, signal);
     }
 
     void setAccessibility() override

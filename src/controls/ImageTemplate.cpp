@@ -1,5 +1,8 @@
 #include "ImageTemplate.h"
 
+#include "AliasSignals.h"
+#include "EdgeNode.h"
+
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -66,6 +69,7 @@ void ImageTemplate::setSourceSizeStep(int step)
     if (step == m_sourceSizeStep)
         return;
     m_sourceSizeStep = step;
+    connect(this, &QQuickImage::fillModeChanged, this, &ImageTemplate::updateSourceSize, Qt::UniqueConnection);
     updateSourceSize();
     Q_EMIT sourceSizeStepChanged();
 }
@@ -120,6 +124,12 @@ void ImageTemplate::setSourceSize(const QSize &size)
     QQuickImage::setSourceSize(size);
 }
 
+void ImageTemplate::connectNotify(const QMetaMethod &signal)
+{
+    QQuickImage::connectNotify(signal);
+    connectAlias(this, signal);
+}
+
 // Before the image loads: once is enough.
 void ImageTemplate::componentComplete()
 {
@@ -143,8 +153,18 @@ void ImageTemplate::geometryChange(const QRectF &newGeometry, const QRectF &oldG
 void ImageTemplate::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickImage::itemChange(change, data);
+    if (m_isIcon && change == ItemDevicePixelRatioHasChanged)
+        update();
     if (m_sourceSizeStep > 0 && (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange))
         updateSourceSize();
+}
+
+// An icon between the pixels of the device would be blurred.
+QSGNode *ImageTemplate::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
+{
+    const auto paint = [&](QSGNode *node) { return QQuickImage::updatePaintNode(node, data); };
+    const bool fills = m_isIcon && QSizeF(paintedWidth(), paintedHeight()) == size();
+    return EdgeNode::paint<QSGInternalImageNode>(this, oldNode, paint, fills);
 }
 
 ImageTemplate::Icon &ImageTemplate::icon()
@@ -191,10 +211,12 @@ void ImageTemplate::updateSourceSize()
         return;
     if (m_sourceSizeStep > 0) {
         const double ratio = window() ? window()->effectiveDevicePixelRatio() : qGuiApp->devicePixelRatio();
-        const auto inSteps = [&](double length) {
-            return int(std::ceil(length * ratio / m_sourceSizeStep)) * m_sourceSizeStep;
-        };
-        QQuickImage::setSourceSize({inSteps(width()), inSteps(height())});
+        const double longest = std::max(width(), height()) * ratio;
+        const double side = std::ceil(longest / m_sourceSizeStep) * m_sourceSizeStep;
+        // A provider may leave free what its picture does not fill: where the item does too, or, cropped, in a square.
+        const bool isCropped = fillMode() == PreserveAspectCrop;
+        const QSizeF wanted = size().scaled(side, side, isCropped ? Qt::IgnoreAspectRatio : Qt::KeepAspectRatio);
+        QQuickImage::setSourceSize(wanted.toSize());
     } else if (m_isIcon) {
         // Never empty, also not while only one of the sides has changed yet: the provider would complain.
         QQuickImage::setSourceSize(size().toSize().expandedTo({1, 1}));

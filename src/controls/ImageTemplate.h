@@ -19,8 +19,9 @@ class ImageTemplate : public QQuickImage, private ControlState::User
     Q_PROPERTY(bool isSpinnerVisible READ isSpinnerVisible NOTIFY isSpinnerVisibleChanged)
     /// null while there is none.
     Q_PROPERTY(QQuickItem *spinner READ spinner NOTIFY isSpinnerVisibleChanged)
-    /// For large pictures, device pixels: the source size is the item's, rounded up to a multiple of it, so that a change
-    /// of size rarely loads anew. 0 leaves the source size alone.
+    /// For large pictures, device pixels: the source size is the item's, enlarged until its longest side is a multiple
+    /// of it, so that a change of scale rarely loads anew; a square for what is cropped. 0 leaves the source size
+    /// alone.
     Q_PROPERTY(int sourceSizeStep READ sourceSizeStep WRITE setSourceSizeStep NOTIFY sourceSizeStepChanged)
     /// ":/Resources/<svgName>.svg" at the size of the item. Empty leaves the source alone.
     Q_PROPERTY(QString svgName READ svgName WRITE setSvgName NOTIFY svgNameChanged)
@@ -65,8 +66,10 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void connectNotify(const QMetaMethod &signal) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
 private:
     struct Icon

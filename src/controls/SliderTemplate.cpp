@@ -1,12 +1,12 @@
 #include "SliderTemplate.h"
 
+#include "AliasSignals.h"
+#include "Face.h"
 #include "FocusRing.h"
 
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
-
-#include <QtQuick/private/qquickrectangle_p.h>
 
 #include <algorithm>
 #include <cmath>
@@ -28,9 +28,9 @@ double rounded(double number)
 
 SliderTemplate::SliderTemplate(QQuickItem *parent)
     : QQuickSlider(parent)
-    , m_handle(new QQuickRectangle(this))
-    , m_bar(new QQuickRectangle(this))
-    , m_fullBar(new QQuickRectangle(m_bar))
+    , m_handle(new Face(this))
+    , m_bar(new Face(this))
+    , m_fullBar(new Face(m_bar))
     , m_focusColorSetName(u"global-focus-outline"_s)
 {
     m_handle->border()->setWidth(1);
@@ -233,6 +233,12 @@ void SliderTemplate::accessibleDecreaseAction()
 {
     if (isEnabled())
         moveBy(-keyStep());
+}
+
+void SliderTemplate::connectNotify(const QMetaMethod &signal)
+{
+    QQuickSlider::connectNotify(signal);
+    connectAlias(this, signal);
 }
 
 void SliderTemplate::componentComplete()

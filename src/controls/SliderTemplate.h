@@ -9,8 +9,8 @@
 
 #include <optional>
 
+class Face;
 class FocusRing;
-class QQuickRectangle;
 
 /// The sliders: a bar, full up to the handle, and a handle with a focus ring and, while it is dragged or has the
 /// keyboard's focus, a tooltip. The arrows, PageUp, PageDown, Home and End move the handle; like assistive technology
@@ -109,6 +109,7 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void connectNotify(const QMetaMethod &signal) override;
     void itemChange(ItemChange change, const ItemChangeData &value) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void paddingChange(const QMarginsF &newPadding, const QMarginsF &oldPadding) override;
@@ -134,9 +135,9 @@ private:
     StateColor m_emptyColor{&m_state};
     StateColor m_handleColor{&m_state};
     StateColor m_borderColor{&m_state};
-    QQuickRectangle *m_handle;
-    QQuickRectangle *m_bar;
-    QQuickRectangle *m_fullBar;
+    Face *m_handle;
+    Face *m_bar;
+    Face *m_fullBar;
     QPointer<QObject> m_shownTooltip;
     FocusRing *m_ring = nullptr;
     QString m_focusColorSetName;

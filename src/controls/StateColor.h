@@ -13,8 +13,8 @@ class ControlState;
 class StateColor : public QObject
 {
     Q_OBJECT
-    /// The application's theme mode unless it is set; `undefined` goes back to that. A change of it looks the colour set
-    /// up again. All colours of a control share it; likewise the target.
+    /// The application's theme mode unless it is set; `undefined` goes back to that. A change of it looks the colour
+    /// set up again. All colours of a control share it; likewise the target.
     Q_PROPERTY(QVariant themeType READ themeType WRITE setThemeType RESET resetThemeType NOTIFY themeTypeChanged)
     /// What counts in place of the control: an object with any of `enabled`, `readOnly`, `pressed`, `hovered`,
     /// `activeFocus` and `checked`. Of a JavaScript object the values count that it has when it is set. null for none.

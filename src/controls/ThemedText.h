@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AccessibleOnDemand.h"
+#include "AliasSignals.h"
 #include "ControlState.h"
 #include "StateColor.h"
 #include "ToolTips.h"
@@ -66,6 +67,12 @@ protected:
         Base::itemChange(change, data);
         if (change == QQuickItem::ItemEnabledHasChanged || change == QQuickItem::ItemActiveFocusHasChanged)
             updateState();
+    }
+
+    void connectNotify(const QMetaMethod &signal) override
+    {
+        Base::connectNotify(signal);
+        connectAlias(this, signal);
     }
 
     void setAccessibility() override

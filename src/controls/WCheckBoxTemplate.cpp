@@ -1,11 +1,11 @@
 #include "WCheckBoxTemplate.h"
 
+#include "DevicePixels.h"
 #include "Face.h"
 #include "ImageTemplate.h"
 #include "ToolTips.h"
 
 #include <QQmlEngine>
-#include <QQuickWindow>
 
 #include <cmath>
 
@@ -242,12 +242,11 @@ void WCheckBoxTemplate::showLooks()
 {
     if (!m_isReady || !m_box)
         return;
-    const double ratio = window() ? window()->effectiveDevicePixelRatio() : 1;
     const double y = topPadding() + (availableHeight() - m_checkboxSize) / 2;
     m_box->setImplicitWidth(m_checkboxSize);
     m_box->setImplicitHeight(m_checkboxSize);
     m_box->setPosition({isMirrored() ? width() - m_checkboxSize - rightPadding() : leftPadding(),
-                        std::round(std::round(y) * ratio) / ratio});
+                        DevicePixels::rounded(std::round(y), DevicePixels::ratioOf(this))});
     m_box->setRadius(m_checkboxRadius);
 
     if (isEmpty()) {

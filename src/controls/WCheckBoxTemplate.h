@@ -11,7 +11,8 @@
 class Face;
 class ImageTemplate;
 
-/// The logic of the check boxes and the box itself: colours by the state, the icon in the box, keys, tooltip, focus ring.
+/// The logic of the check boxes and the box itself: colours by the state, the icon in the box, keys, tooltip, focus
+/// ring.
 ///
 /// While the box is not empty, colour sets "checkbox-unchecked-..." make room for "checkbox-checked-..."; others stay.
 class WCheckBoxTemplate : public FocusableButton<QQuickCheckBox>, private ControlState::User

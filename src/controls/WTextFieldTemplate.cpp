@@ -1,5 +1,6 @@
 #include "WTextFieldTemplate.h"
 
+#include "AliasSignals.h"
 #include "Face.h"
 #include "FocusRing.h"
 
@@ -157,6 +158,12 @@ void WTextFieldTemplate::setPlaceholder(QQmlComponent *placeholder)
 double WTextFieldTemplate::placeholderWidth() const
 {
     return m_placeholderWidth;
+}
+
+void WTextFieldTemplate::connectNotify(const QMetaMethod &signal)
+{
+    QQuickTextField::connectNotify(signal);
+    connectAlias(this, signal);
 }
 
 void WTextFieldTemplate::componentComplete()

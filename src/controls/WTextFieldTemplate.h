@@ -81,6 +81,7 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void connectNotify(const QMetaMethod &signal) override;
     void itemChange(ItemChange change, const ItemChangeData &value) override;
     void focusInEvent(QFocusEvent *event) override;
     void hoverEnterEvent(QHoverEvent *event) override;

@@ -254,8 +254,9 @@ QPointer<View> WQmlEngine::createView(const QString &source, QWindow *parent, Fi
 void WQmlEngine::setPopupView(QWindow *popup)
 {
     // A host that has not registered the library's types has no Utils that could close the popup.
-    const int utilsType = qmlTypeId("LumakitQml", 1, 0, "Utils");
-    if (auto *utils = singletonInstance<QmlUtils *>(utilsType))
+    if (m_utilsType < 0)
+        m_utilsType = qmlTypeId("LumakitQml", 1, 0, "Utils");
+    if (auto *utils = singletonInstance<QmlUtils *>(m_utilsType))
         utils->setPopupView(popup);
 }
 

@@ -117,6 +117,7 @@ private:
     void initializeController(QObject *root, const QString &source, const QMap<QString, QVariant> &initialProperties,
                               const ControllerCallback &callback);
 
+    int m_utilsType = -1;
     bool m_readQmlFromDisk = false;
     bool m_watchingPerformance = false;
     bool m_criticalErrorReported = false;

@@ -44,7 +44,7 @@ public:
     int height() const;
     void setHeight(int height);
 
-    bool border() const;
+    bool border() const override;
     void setBorder(bool border);
 
     int radius() const;

@@ -31,6 +31,9 @@ public:
     LKEventData *eventData() const;
     void setEventData(LKEventData *eventData);
 
+    /// There is a border; without a border colour none is seen.
+    virtual bool border() const = 0;
+
 protected:
     explicit LKButtonColors(QObject *parent);
 

@@ -55,7 +55,7 @@ public:
     /// its icon as large. None, and a value that is no size, leaves both as they are.
     void setButtonSize(LKButtonSize::Size buttonSize);
 
-    bool border() const;
+    bool border() const override;
     void setBorder(bool border);
 
     int radius() const;

@@ -47,8 +47,7 @@ void WPopupQuickView::showAtWidget(QWidget *widget, Qt::ArrowType arrow)
 void WPopupQuickView::setActivationRectAndShow(const QRectF &rect, Qt::ArrowType arrow)
 {
     m_activationRect = rect;
-    for (const char *signal :
-         {SIGNAL(heightChanged(int)), SIGNAL(widthChanged(int)), SIGNAL(xChanged(int)), SIGNAL(yChanged(int))})
+    for (const auto signal : {&QWindow::heightChanged, &QWindow::widthChanged, &QWindow::xChanged, &QWindow::yChanged})
         disconnect(this, signal, this, nullptr);
 
     // Always from the direction that the caller asked for: a popup that has shrunk flips back.

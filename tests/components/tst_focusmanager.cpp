@@ -250,6 +250,8 @@ class tst_FocusManager : public ComponentTest
 private Q_SLOTS:
     void defaults();
     void enums();
+    void noItems_data();
+    void noItems();
     void hiddenChild();
     void startsByKey_data();
     void startsByKey();
@@ -357,6 +359,37 @@ void tst_FocusManager::enums()
                       " LKFocusManager.FocusReason.Click, LKFocusManager.FocusReason.Restore] }");
     QVERIFY(item);
     QCOMPARE(item->property("values").value<QVariantList>(), (QVariantList{0, 1, 2, 3}));
+}
+
+void tst_FocusManager::noItems_data()
+{
+    QTest::addColumn<QByteArray>("items");
+    QTest::newRow("null") << QByteArray("null");
+    QTest::newRow("undefined") << QByteArray("undefined");
+    QTest::newRow("empty") << QByteArray("[]");
+    QTest::newRow("an item that is null") << QByteArray("[null]");
+}
+
+void tst_FocusManager::noItems()
+{
+    QFETCH(const QByteArray, items);
+    QVERIFY(show("Item { LKFocusManager { objectName: 'manager'; activeFocusOnTab: true; focusableItems: " + items
+                 + "} WButton { objectName: 'after' } }"));
+    auto *manager = find(u"manager"_s);
+    QMetaObject::invokeMethod(manager, "forceActiveFocus");
+    press(Qt::Key_Space);
+    QVERIFY(manager->hasActiveFocus());
+    QVERIFY(!call(manager, "getActiveFocusedItem").isValid());
+    press(Qt::Key_Tab);
+    press(Qt::Key_Backtab);
+    manager->setProperty("wrapAround", false);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Escape);
+    find(u"after"_s)->forceActiveFocus(Qt::TabFocusReason);
+    QVERIFY(!manager->hasActiveFocus());
+    manager->setProperty("forceNavigation", true);
+    QMetaObject::invokeMethod(manager, "forceActiveFocus");
+    QVERIFY(!call(manager, "getActiveFocusedItem").isValid());
 }
 
 void tst_FocusManager::hiddenChild()

@@ -189,6 +189,9 @@ private Q_SLOTS:
     void wGifLabelMirrors();
     void wCoverImageCovers();
     void wCoverImageTakesTheControllersImage();
+    void largePicturesFollowTheDevicePixelRatio_data();
+    void largePicturesFollowTheDevicePixelRatio();
+    void croppedPictureCovers();
 
     void wCircularProgressBarFraction_data();
     void wCircularProgressBarFraction();
@@ -764,6 +767,59 @@ void tst_Images::wCoverImageTakesTheControllersImage()
     cover->setProperty("controller", QVariant::fromValue<QObject *>(nullptr));
     QCOMPARE(cover->property("image").toUrl(), QUrl());
     QTRY_COMPARE(colorAt(cover, 30, 30), colorOf("card-inactive-background"));
+}
+
+void tst_Images::largePicturesFollowTheDevicePixelRatio_data()
+{
+    QTest::addColumn<QByteArray>("qml");
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<QSize>("sourceSize");
+    const QByteArray fitted = "WDynamicImage { width: 120; height: 80 }";
+    const QByteArray cropped = "WCoverImage { width: 240; height: 80 }";
+    QTest::newRow("fitted, 1") << fitted << 1.0 << QSize(128, 85);
+    QTest::newRow("fitted, 1.25") << fitted << 1.25 << QSize(256, 171);
+    QTest::newRow("fitted, 1.5") << fitted << 1.5 << QSize(256, 171);
+    QTest::newRow("fitted, upright") << QByteArray("WDynamicImage { width: 80; height: 120 }") << 1.0 << QSize(85, 128);
+    QTest::newRow("cropped, 1") << cropped << 1.0 << QSize(256, 256);
+    QTest::newRow("cropped, 1.25") << cropped << 1.25 << QSize(384, 384);
+    QTest::newRow("fitted, cropped") << QByteArray(
+        "WDynamicImage { width: 120; height: 80; fillMode: Image.PreserveAspectCrop }")
+                                     << 1.0 << QSize(128, 128);
+    QTest::newRow("without a size") << QByteArray("WDynamicImage { width: 0; height: 0 }") << 1.0 << QSize(0, 0);
+}
+
+void tst_Images::largePicturesFollowTheDevicePixelRatio()
+{
+    QFETCH(const QByteArray, qml);
+    QFETCH(const double, ratio);
+    QFETCH(const QSize, sourceSize);
+    QImage device(100, 100, QImage::Format_ARGB32_Premultiplied);
+    QQuickWindow scene; // with a ratio of its own; it is never shown
+    QQuickRenderTarget target = QQuickRenderTarget::fromPaintDevice(&device);
+    target.setDevicePixelRatio(ratio);
+    scene.setRenderTarget(target);
+    QQmlComponent component(application()->getQmlEngine());
+    component.setData("import QtQuick\nimport 'qrc:/Qml'\n" + qml, {});
+    const std::unique_ptr<QObject> item(
+        component.createWithInitialProperties({{u"parent"_s, QVariant::fromValue(scene.contentItem())}}));
+    QVERIFY2(item, qPrintable(component.errorString()));
+    for (const QQuickItem *child : static_cast<QQuickItem *>(item.get())->childItems()) {
+        if (child->property("sourceSizeStep").isValid())
+            QCOMPARE(child->property("sourceSize").toSize(), sourceSize);
+    }
+}
+
+// Of a square file, in an item of any proportions.
+void tst_Images::croppedPictureCovers()
+{
+    auto *cover = show("WCoverImage { width: 240; height: 80; asynchronous: false;"
+                       "              image: 'image://svg/#ff0000/stop-filled' }");
+    QVERIFY(cover);
+    for (const QPointF place : {QPointF(60, 10), QPointF(180, 10), QPointF(60, 70), QPointF(180, 70)})
+        QCOMPARE(colorAt(cover, place.x(), place.y()), QColor(Qt::red));
+    cover->setSize({80, 240});
+    for (const QPointF place : {QPointF(10, 60), QPointF(10, 180), QPointF(70, 60), QPointF(70, 180)})
+        QTRY_COMPARE(colorAt(cover, place.x(), place.y()), QColor(Qt::red));
 }
 
 void tst_Images::wCircularProgressBarFraction_data()

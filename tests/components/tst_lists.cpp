@@ -108,6 +108,8 @@ private Q_SLOTS:
     void listKeys();
     void listRing();
     void listIsATabStop();
+    void viewsThatAreEmptiedKeepTheFocus_data();
+    void viewsThatAreEmptiedKeepTheFocus();
     void listEmptyState_data();
     void listEmptyState();
     void listWithItsScrollBar_data();
@@ -531,6 +533,27 @@ void tst_Lists::listIsATabStop()
     list->setProperty("model", 0);
     press(Qt::Key_Backtab);
     QVERIFY(find(u"before"_s)->hasActiveFocus()); // nothing to go to in an empty list
+}
+
+void tst_Lists::viewsThatAreEmptiedKeepTheFocus_data()
+{
+    QTest::addColumn<QByteArray>("view");
+    QTest::newRow("list") << List + "objectName: 'view'; readonly property Item stop: listView }";
+    QTest::newRow("grid") << Grid + "objectName: 'view'; readonly property Item stop: this }";
+}
+
+void tst_Lists::viewsThatAreEmptiedKeepTheFocus()
+{
+    QFETCH(const QByteArray, view);
+    QVERIFY(show("Column { WButton { objectName: 'before' }" + view + "}"));
+    auto *stop = find(u"view"_s)->property("stop").value<QQuickItem *>();
+    stop->forceActiveFocus(Qt::TabFocusReason);
+    stop->setProperty("model", 0);
+    QVERIFY(stop->hasActiveFocus());
+    press(Qt::Key_Tab);
+    QVERIFY(find(u"before"_s)->hasActiveFocus());
+    press(Qt::Key_Tab);
+    QVERIFY(find(u"before"_s)->hasActiveFocus()); // empty, it is no stop any more
 }
 
 void tst_Lists::listEmptyState_data()

@@ -81,6 +81,8 @@ private Q_SLOTS:
     void stateOfAButton();
     void aThemeRecolours_data();
     void aThemeRecolours();
+    void borderFollowsItsData_data();
+    void borderFollowsItsData();
     void hoverOverride();
 
     void whatIsAbsentHasNoItem();
@@ -714,6 +716,40 @@ void tst_LkButtons::aThemeRecolours()
     QCOMPARE(color(item(root(), "background")), colorSet(background).normal);
     QCOMPARE(icons(root()).constFirst(), icon); // the same item
     QVERIFY(icon->property("source").toString().contains(colorSet(text).normal.name()));
+}
+
+void tst_LkButtons::borderFollowsItsData_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::newRow("pill") << QByteArray("LKPillButton { property QtObject buttonData: LKPillButtonData");
+    QTest::newRow("round button") << QByteArray("LKRoundButton { property QtObject buttonData: LKRoundButtonData");
+    QTest::newRow("icon button") << QByteArray("LKIconButton { property QtObject buttonData: LKIconButtonData");
+}
+
+// A border colour alone makes no border.
+void tst_LkButtons::borderFollowsItsData()
+{
+    QFETCH(const QByteArray, button);
+    QVERIFY(show(button + " }"));
+    auto *buttonData = root()->property("buttonData").value<QObject *>();
+    const auto *background = item(root(), "background");
+    const QColor normal = colorSet(u"button-secondary-border"_s).normal;
+    auto *token = buttonData->property("borderColorData").value<LKColorData *>();
+    token->setToken(u"button-secondary-border"_s); // also over what the style has set
+    buttonData->setProperty("border", true);
+    QCOMPARE(borderWidth(background), 1);
+    QCOMPARE(borderColor(background), normal);
+    token->setToken(QString());
+    QCOMPARE(borderWidth(background), 0);
+    token->setToken(u"button-secondary-border"_s);
+    QCOMPARE(borderWidth(background), 1);
+    buttonData->setProperty("border", false);
+    QCOMPARE(borderWidth(background), 0);
+    root()->setEnabled(false); // another colour
+    QCOMPARE(borderWidth(background), 0);
+    buttonData->setProperty("border", true);
+    QCOMPARE(borderWidth(background), 1);
+    QCOMPARE(borderColor(background), colorSet(u"button-secondary-border"_s).disabled);
 }
 
 void tst_LkButtons::hoverOverride()

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void scrollViewBars_data();
     void scrollViewBars();
     void scrollViewKeepsRoomForItsBar();
+    void scrollViewWithoutContent();
 
     void tabKeys_data();
     void tabKeys();
@@ -93,6 +94,8 @@ private Q_SLOTS:
 
     void shortcutParts_data();
     void shortcutParts();
+    void shortcutStaysInANarrowRow_data();
+    void shortcutStaysInANarrowRow();
     void shortcutSignals();
     void disabledShortcut();
     void shortcutIsAccessible();
@@ -100,6 +103,9 @@ private Q_SLOTS:
     void groupToggles_data();
     void groupToggles();
     void groupRows();
+    void groupIsAsWideAsItsWidestRow();
+    void groupOfNothing_data();
+    void groupOfNothing();
     void groupSignals();
     void groupIsAccessible();
 
@@ -391,6 +397,13 @@ void tst_LkLists::scrollViewKeepsRoomForItsBar()
     QVERIFY(view->property("activeFocusOnTab").toBool());
 }
 
+void tst_LkLists::scrollViewWithoutContent()
+{
+    QVERIFY(show("Item { LKScrollView { objectName: 'view' } }"));
+    const auto *view = find(u"view"_s);
+    QCOMPARE(QSizeF(view->implicitWidth(), view->implicitHeight()), QSizeF(16, 0));
+}
+
 namespace {
 
 QByteArray tabBar(bool mirrored)
@@ -573,6 +586,42 @@ void tst_LkLists::shortcutParts()
         QVERIFY2(!text->property("truncated").toBool(), qPrintable(text->property("text").toString()));
 }
 
+void tst_LkLists::shortcutStaysInANarrowRow_data()
+{
+    QTest::addColumn<QByteArray>("properties");
+    QTest::addColumn<QString>("part");
+    const QByteArray keys = "keySequence: 'Ctrl+Alt+Shift+Backspace'";
+    const QByteArray add = "addButtonIsVisible: true; addButtonText: 'Add some keys for this'";
+    const QByteArray global = "; globalLabelIsVisible: true; globalLabelText: 'Everywhere'";
+    const QByteArray more = "; moreButtonIsVisible: true";
+    QTest::newRow("keys") << keys << u"Ctrl+Alt+Shift+Backspace"_s;
+    QTest::newRow("keys and more") << keys + more << u"Ctrl+Alt+Shift+Backspace"_s;
+    QTest::newRow("keys, a label and more") << keys + global + more << u"Ctrl+Alt+Shift+Backspace"_s;
+    QTest::newRow("add") << add << u"Add some keys for this"_s;
+    QTest::newRow("add and more") << add + more << u"Add some keys for this"_s;
+}
+
+void tst_LkLists::shortcutStaysInANarrowRow()
+{
+    QFETCH(const QByteArray, properties);
+    QFETCH(const QString, part);
+    QVERIFY(show("Item { LKKeyboardShortcutsItemDelegate { objectName: 'row'; title: 'Leave the meeting'; " + properties
+                 + " } }"));
+    auto *row = find(u"row"_s);
+    const QQuickItem *text = itemsWithText(row, part).constFirst();
+    const double natural = text->width();
+    // Everything keeps its width while the title can still give way.
+    row->setWidth(row->implicitWidth() - 40);
+    QTRY_VERIFY(itemsWithText(row, u"Leave the meeting"_s).constFirst()->property("truncated").toBool());
+    QCOMPARE(text->width(), natural);
+    row->setWidth(130);
+    QTRY_COMPARE_LT(text->width(), natural);
+    for (const QQuickItem *item : itemsWith(row, "text") + itemsWith(row, "buttonIcon")) {
+        const QRectF place = item->mapRectToItem(row, item->boundingRect());
+        QVERIFY2(place.left() >= 0 && place.right() <= row->width(), qPrintable(item->property("text").toString()));
+    }
+}
+
 void tst_LkLists::shortcutSignals()
 {
     QVERIFY(
@@ -709,6 +758,39 @@ void tst_LkLists::groupRows()
     QTRY_COMPARE_LT(group->implicitHeight(), height - 80);
     group->setProperty("collapsed", false);
     QTRY_COMPARE(group->implicitHeight(), height);
+}
+
+void tst_LkLists::groupIsAsWideAsItsWidestRow()
+{
+    QVERIFY(
+        show("Item { LKKeyboardShortcutsGroupDelegate { objectName: 'group'; title: 'Call'; "
+             "items: [{ title: 'Mute', keySequence: 'Ctrl+M' }, { title: 'A long name of what the keys do' }] } }"));
+    auto *group = find(u"group"_s);
+    const QList<QQuickItem *> rows = itemsWith(group, "keySequence");
+    QCOMPARE(rows.size(), 2);
+    QVERIFY(rows[1]->implicitWidth() > rows[0]->implicitWidth());
+    QCOMPARE(group->width(), rows[1]->implicitWidth());
+    QCOMPARE(rows[0]->width(), group->width());
+    group->setProperty("items", QVariantList());
+    QCOMPARE(group->width(), std::ceil(itemOf(group, "header")->implicitWidth()));
+}
+
+void tst_LkLists::groupOfNothing_data()
+{
+    QTest::addColumn<QByteArray>("items");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("null") << QByteArray("null") << 0;
+    QTest::newRow("empty") << QByteArray("[]") << 0;
+    QTest::newRow("rows of nothing") << QByteArray("[null, undefined, {}]") << 3;
+}
+
+void tst_LkLists::groupOfNothing()
+{
+    QFETCH(const QByteArray, items);
+    QFETCH(const int, rows);
+    QVERIFY(
+        show("Item { LKKeyboardShortcutsGroupDelegate { objectName: 'group'; title: 'Call'; items: " + items + " } }"));
+    QCOMPARE(itemsWith(find(u"group"_s), "keySequence").size(), rows);
 }
 
 void tst_LkLists::groupSignals()

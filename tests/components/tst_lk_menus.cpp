@@ -2,7 +2,10 @@
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QProcess>
 #include <QStandardItemModel>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +80,7 @@ private Q_SLOTS:
     void itemEmits_data();
     void itemEmits();
     void separatorColor();
+    void wholePixelsAtAFractionOfARatio();
 
     void contextMenuTypeAhead_data();
     void contextMenuTypeAhead();
@@ -375,8 +379,13 @@ void tst_LkMenus::selectsByKey()
     QSignalSpy selected(menu, SIGNAL(selectItem(int)));
     menu->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Down);
-    press(Qt::Key(key));
-    QCOMPARE(selected.count(), 1);
+    QTest::keyPress(window(), Qt::Key(key));
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeated(type, key, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(window(), &repeated);
+    }
+    QTest::keyRelease(window(), Qt::Key(key));
+    QCOMPARE(selected.count(), 1); // a key that is held down chooses once
     QCOMPARE(selected[0][0].toInt(), 3);
 }
 
@@ -491,6 +500,43 @@ void tst_LkMenus::separatorColor()
     QCOMPARE(line->height(), 1.0);
     QCOMPARE(line->property("color").value<QColor>(), application()->getColorSet(u"separator-primary"_s).normal);
     QCOMPARE(accessible(find(u"separator"_s))->role(), QAccessible::Separator);
+}
+
+// In a process of its own, whose screens have the ratio.
+void tst_LkMenus::wholePixelsAtAFractionOfARatio()
+{
+    constexpr double Ratio = 1.25;
+    if (qEnvironmentVariable("QT_SCALE_FACTOR") != "1.25"_L1) {
+        QProcess scaled;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_SCALE_FACTOR"_s, u"1.25"_s);
+        scaled.setProcessEnvironment(environment);
+        scaled.setProcessChannelMode(QProcess::MergedChannels);
+        scaled.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(QTest::currentTestFunction())});
+        QVERIFY(scaled.waitForFinished());
+        const QByteArray output = scaled.readAll();
+        QVERIFY2(scaled.exitStatus() == QProcess::NormalExit && scaled.exitCode() == 0, output.constData());
+        return;
+    }
+    QVERIFY(
+        show("Item { LKMenu { objectName: 'menu'; model: [{ text: 'One' }, { isSeparator: true }, { text: 'Two' }] }"
+             " WMenuSeparator { objectName: 'separator'; width: 100 }"
+             " LKMenuSeparator { objectName: 'lkSeparator'; width: 100 }"
+             " WMenu { objectName: 'popup'; WMenuItem { text: 'One' } } }"));
+    QCOMPARE(window()->effectiveDevicePixelRatio(), Ratio);
+    const auto *menu = find(u"menu"_s);
+    QTRY_COMPARE_GT(menu->height(), 64.0);
+    for (const double length : {menu->width(), menu->height(), menu->width() * Ratio, menu->height() * Ratio})
+        QCOMPARE(length, std::round(length));
+    QCOMPARE(menu->height(), 84.0);
+    for (const QString &name : {u"separator"_s, u"lkSeparator"_s})
+        QCOMPARE(itemOf(find(name), "contentItem")->height() * Ratio, 1.0);
+    const double top = list()->mapToItem(menu, QPointF()).y() * Ratio;
+    QCOMPARE(top, std::round(top));
+    auto *popup = find<QObject>(u"popup"_s);
+    QMetaObject::invokeMethod(popup, "open");
+    const double padding = popup->property("padding").toDouble() * Ratio;
+    QCOMPARE(padding, std::round(padding));
 }
 
 namespace {

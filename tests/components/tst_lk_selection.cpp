@@ -18,6 +18,8 @@ private Q_SLOTS:
     void accessibility();
 
     void radioButtonsExcludeEachOther();
+    void heldKeyClicksARadioButtonOnce_data();
+    void heldKeyClicksARadioButtonOnce();
     void arrowsChooseARadioButton_data();
     void arrowsChooseARadioButton();
     void radioButtonsAreOneTabStop_data();
@@ -249,6 +251,31 @@ void tst_LkSelection::radioButtonsExcludeEachOther()
     QCOMPARE(checkedNames(names), u"a"_s);
     QCOMPARE(toggledA.count(), 2);
     QCOMPARE(clickedA.count(), 3);
+}
+
+void tst_LkSelection::heldKeyClicksARadioButtonOnce_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Space") << int(Qt::Key_Space);
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+}
+
+void tst_LkSelection::heldKeyClicksARadioButtonOnce()
+{
+    QFETCH(const int, key);
+    QVERIFY(show(Choices));
+    auto *button = find(u"a"_s);
+    QSignalSpy clicked(button, SIGNAL(clicked()));
+    button->forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyPress(window(), Qt::Key(key));
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeated(type, key, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(window(), &repeated);
+    }
+    QTest::keyRelease(window(), Qt::Key(key));
+    QCOMPARE(clicked.count(), 1);
+    QVERIFY(button->property("checked").toBool());
 }
 
 void tst_LkSelection::arrowsChooseARadioButton_data()

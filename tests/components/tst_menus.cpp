@@ -81,6 +81,8 @@ private Q_SLOTS:
     void menuKeysShowTheFocus();
     void menuItemTriggers_data();
     void menuItemTriggers();
+    void heldKeyTriggersOnce_data();
+    void heldKeyTriggersOnce();
     void menuItemIndicator_data();
     void menuItemIndicator();
     void menuWidth_data();
@@ -114,6 +116,8 @@ private Q_SLOTS:
     void coachmarkFocus_data();
     void coachmarkFocus();
     void coachmarkTexts();
+    void coachmarkStaysInALowWindow_data();
+    void coachmarkStaysInALowWindow();
     void coachmarkName_data();
     void coachmarkName();
 
@@ -541,6 +545,30 @@ void tst_Menus::menuItemTriggers()
     QCOMPARE(entry->property("checked").toBool(), checked != (toggled == 1));
     if (triggered)
         QTRY_VERIFY(!menu->property("visible").toBool());
+}
+
+void tst_Menus::heldKeyTriggersOnce_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("space") << int(Qt::Key_Space);
+    QTest::newRow("return") << int(Qt::Key_Return);
+    QTest::newRow("enter") << int(Qt::Key_Enter);
+}
+
+void tst_Menus::heldKeyTriggersOnce()
+{
+    QFETCH(const int, key);
+    QVERIFY(show("Item { WMenuItem { objectName: 'entry'; text: 'Entry' } }"));
+    auto *entry = find(u"entry"_s);
+    QSignalSpy triggers(entry, SIGNAL(triggered()));
+    entry->forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyPress(window(), Qt::Key(key));
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeated(type, key, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(window(), &repeated);
+    }
+    QTest::keyRelease(window(), Qt::Key(key));
+    QCOMPARE(triggers.count(), 1);
 }
 
 void tst_Menus::menuItemIndicator_data()
@@ -1088,6 +1116,41 @@ void tst_Menus::coachmarkTexts()
     mark->setProperty("titleText", QString());
     QVERIFY(!title->isVisible());
     QTRY_VERIFY(sceneRect(body).top() - sceneRect(popupItem(mark)).top() < 24);
+}
+
+void tst_Menus::coachmarkStaysInALowWindow_data()
+{
+    QTest::addColumn<bool>("mirrored");
+    QTest::newRow("as it is") << false;
+    QTest::newRow("mirrored") << true;
+}
+
+void tst_Menus::coachmarkStaysInALowWindow()
+{
+    QFETCH(const bool, mirrored);
+    QVERIFY(
+        show("Item { width: 400; height: 300; Item { x: 150; y: 240; width: 50; height: 30; LayoutMirroring.enabled: "
+             + QByteArray(mirrored ? "true" : "false")
+             + "; WCoachmark { objectName: 'mark'; visible: true; acquireFocusWhenShown: true; titleText: 'Title'"
+               "; bodyText: 'A body that is too long for the window. '.repeat(40) } } }"));
+    auto *mark = find<QObject>(u"mark"_s);
+    QTRY_VERIFY(mark->property("opened").toBool());
+    const QRectF frame = sceneRect(popupItem(mark));
+    QVERIFY(QRectF(0, 0, 400, 300).contains(frame));
+    const auto *title = mark->findChild<QQuickItem *>(u"coachMarkTitle"_s);
+    auto *body = mark->findChild<QQuickItem *>(u"coachMarkBody"_s);
+    auto *view = body->parentItem()->parentItem()->parentItem();
+    QVERIFY(frame.contains(sceneRect(view)));
+    QVERIFY(view->clip());
+    QVERIFY(frame.contains(sceneRect(itemOf(mark, "closeButton"))));
+    QVERIFY(!sceneRect(view).intersects(sceneRect(itemOf(mark, "closeButton"))));
+    QVERIFY(sceneRect(view).contains(sceneRect(title)));
+    for (int i = 0; i < 100; ++i)
+        press(Qt::Key_Down);
+    QCOMPARE(sceneRect(body).bottom(), sceneRect(view).bottom());
+    for (int i = 0; i < 100; ++i)
+        press(Qt::Key_Up);
+    QVERIFY(sceneRect(view).contains(sceneRect(title)));
 }
 
 void tst_Menus::coachmarkName_data()

@@ -14,6 +14,8 @@ class tst_Selection : public ComponentTest
 private Q_SLOTS:
     void toggles_data();
     void toggles();
+    void heldKeyTogglesOnce_data();
+    void heldKeyTogglesOnce();
     void toggleAccessibility_data();
     void toggleAccessibility();
     void toggleColours_data();
@@ -56,6 +58,7 @@ private Q_SLOTS:
     void comboBoxOpenByKeyboard_data();
     void comboBoxOpenByKeyboard();
     void comboBoxByMouse();
+    void comboBoxClosesWhenDisabled();
     void comboBoxTexts_data();
     void comboBoxTexts();
     void comboBoxMarksTheChosenRow();
@@ -142,6 +145,33 @@ void tst_Selection::toggles()
     control->setEnabled(false);
     toggle();
     QCOMPARE(toggled.count(), 2 * count);
+}
+
+void tst_Selection::heldKeyTogglesOnce_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<int>("key");
+    for (const QByteArray type : {"WCheckBox", "WSwitch"}) {
+        QTest::newRow(type + ", Space") << type << int(Qt::Key_Space);
+        QTest::newRow(type + ", Return") << type << int(Qt::Key_Return);
+        QTest::newRow(type + ", Enter") << type << int(Qt::Key_Enter);
+    }
+}
+
+void tst_Selection::heldKeyTogglesOnce()
+{
+    QFETCH(const QByteArray, type);
+    QFETCH(const int, key);
+    QVERIFY(show("Item { " + type + " { objectName: 'control'; text: 'Check' } }"));
+    QSignalSpy toggled(find(u"control"_s), SIGNAL(toggled()));
+    press(Qt::Key_Tab);
+    QTest::keyPress(window(), Qt::Key(key));
+    for (const QEvent::Type repeat : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeated(repeat, key, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(window(), &repeated);
+    }
+    QTest::keyRelease(window(), Qt::Key(key));
+    QCOMPARE(toggled.count(), 1);
 }
 
 void tst_Selection::toggleAccessibility_data()
@@ -769,6 +799,20 @@ void tst_Selection::comboBoxByMouse()
     click(root()); // closes it
     QTRY_COMPARE(popup(root())->property("visible").toBool(), false);
     QCOMPARE(activated.count(), 1);
+}
+
+void tst_Selection::comboBoxClosesWhenDisabled()
+{
+    QVERIFY(show("Item { width: 300; height: 200; WComboBox { objectName: 'box'; model: ['One', 'Two'] } }"));
+    auto *box = find(u"box"_s);
+    QSignalSpy activated(box, SIGNAL(activated(int)));
+    QMetaObject::invokeMethod(popup(box), "open"); // by code: without the focus, whose loss closes it
+    QTRY_VERIFY(popup(box)->property("opened").toBool());
+    root()->setEnabled(false);
+    QTRY_VERIFY(!popup(box)->property("visible").toBool());
+    root()->setEnabled(true);
+    QVERIFY(!popup(box)->property("visible").toBool());
+    QCOMPARE(activated.count(), 0);
 }
 
 void tst_Selection::comboBoxTexts_data()

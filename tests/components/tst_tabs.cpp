@@ -33,6 +33,10 @@ private Q_SLOTS:
 
     void pillsThatDoNotFitAreHidden_data();
     void pillsThatDoNotFitAreHidden();
+    void pillIsNoWiderThanItsBar_data();
+    void pillIsNoWiderThanItsBar();
+    void pillsOfNoModel_data();
+    void pillsOfNoModel();
     void pillsFollowTheWidth();
     void pillsFollowTheFont();
     void pillSizes();
@@ -408,6 +412,53 @@ void tst_Tabs::pillsThatDoNotFitAreHidden()
     QCOMPARE(more != nullptr, hasMore);
     if (more && width > 100)
         QVERIFY(more->mapRectToItem(bar, more->boundingRect()).right() <= width - 4);
+}
+
+void tst_Tabs::pillIsNoWiderThanItsBar_data()
+{
+    QTest::addColumn<QByteArray>("model");
+    QTest::addColumn<bool>("hasMore");
+    QTest::newRow("one tab") << QByteArray("['A tab whose text is longer than the bar']") << false;
+    QTest::newRow("the current of several") << QByteArray("['A tab whose text is longer than the bar', 'B']") << true;
+}
+
+void tst_Tabs::pillIsNoWiderThanItsBar()
+{
+    QFETCH(const QByteArray, model);
+    QFETCH(const bool, hasMore);
+    QVERIFY(
+        show("Item { width: 400; height: 100; WPillTabBar { objectName: 'bar'; width: 120; model: " + model + "} }"));
+    auto *bar = find(u"bar"_s);
+    QVERIFY(bar->implicitWidth() > 200);
+    auto *row = bar->property("tabView").value<QQuickItem *>();
+    QCOMPARE(row->childItems()[0]->width(), hasMore ? 120.0 - 2 * 4 - 32 - 4 : 120.0 - 2 * 4);
+    auto *more = bar->property("overflowButton").value<QQuickItem *>();
+    QCOMPARE(more != nullptr, hasMore);
+    if (more)
+        QCOMPARE(more->mapRectToItem(bar, more->boundingRect()).right(), 116.0);
+    bar->setWidth(400);
+    QVERIFY(row->childItems()[0]->width() > 200);
+}
+
+void tst_Tabs::pillsOfNoModel_data()
+{
+    QTest::addColumn<QVariant>("model");
+    QTest::newRow("undefined") << QVariant();
+    QTest::newRow("null") << QVariant::fromValue<QObject *>(nullptr);
+    QTest::newRow("empty") << QVariant(QVariantList());
+}
+
+void tst_Tabs::pillsOfNoModel()
+{
+    QFETCH(const QVariant, model);
+    QVERIFY(show("WPillTabBar {" + Pills + "}"));
+    QCOMPARE(pillTexts().size(), 4);
+    root()->setProperty("model", model);
+    QCOMPARE(pillTexts(), QStringList());
+    QCOMPARE(root()->property("count").toInt(), 0);
+    QVERIFY(!moreButton());
+    root()->setProperty("model", QVariantList{u"One"_s});
+    QCOMPARE(pillTexts(), QStringList{u"One"_s});
 }
 
 void tst_Tabs::pillsFollowTheWidth()

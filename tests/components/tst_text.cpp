@@ -60,6 +60,8 @@ private Q_SLOTS:
     void fieldGrowsForItsPlaceholder();
 
     void areaGrowsWithItsText();
+    void areaWithoutAWidthWraps_data();
+    void areaWithoutAWidthWraps();
     void areaScrollsInside();
     void areaMovesByPages();
     void areaScrollsWithItsFlickable();
@@ -597,6 +599,49 @@ void tst_Text::areaGrowsWithItsText()
     area->setProperty("text", u"1\n2\n3\n4\n5\n6"_s);
     QVERIFY(area->height() > 120);
     QCOMPARE(area->property("scrollY").toDouble(), 0.0);
+}
+
+void tst_Text::areaWithoutAWidthWraps_data()
+{
+    QTest::addColumn<bool>("mirrored");
+    QTest::newRow("as it is") << false;
+    QTest::newRow("mirrored") << true;
+}
+
+void tst_Text::areaWithoutAWidthWraps()
+{
+    QFETCH(const bool, mirrored);
+    QQuickItem *area = show("WTextArea", mirrored ? "LayoutMirroring.enabled: true" : "");
+    QVERIFY(area);
+    const auto startOf = [area](int position) {
+        QRectF place;
+        QMetaObject::invokeMethod(area, "positionToRectangle", Q_RETURN_ARG(QRectF, place), Q_ARG(int, position));
+        return place.topLeft();
+    };
+    area->setProperty("text", u"Short"_s);
+    QCOMPARE(area->width(), 200.0);
+    const double shortStart = startOf(0).x();
+    if (mirrored)
+        QCOMPARE_GT(shortStart, 100.0);
+    else
+        QCOMPARE(shortStart, 8.0);
+    area->setProperty("text", u"A longer line\nB"_s);
+    if (mirrored)
+        QCOMPARE(startOf(15).x(), 192.0); // each line ends at the edge
+    else
+        QCOMPARE(startOf(14).x(), 8.0);
+    area->setProperty("text", u"A text that is longer than the area is wide, so that it wraps. "_s.repeated(3));
+    QCOMPARE(area->width(), 200.0);
+    QCOMPARE_GT(area->property("lineCount").toInt(), 3);
+    QCOMPARE_LE(area->property("contentWidth").toDouble(), 184.0);
+    area->setProperty("text", u"Short"_s);
+    QCOMPARE(startOf(0).x(), shortStart);
+    area->setProperty("placeholderText", u"A placeholder that is wider than the area is otherwise"_s);
+    QCOMPARE_GT(area->width(), 300.0);
+    area->setWidth(120);
+    QCOMPARE(area->width(), 120.0);
+    if (mirrored)
+        QCOMPARE(startOf(5).x(), 112.0);
 }
 
 void tst_Text::areaScrollsInside()
