@@ -1,12 +1,12 @@
 #include "ButtonContent.h"
 
+#include "IconImage.h"
 #include "LKColorData.h"
 #include "LKIconButtonData.h"
 #include "LKPillButtonData.h"
 
 #include <QQmlEngine>
 
-#include <QtQuick/private/qquickimage_p.h>
 #include <QtQuick/private/qquicktext_p.h>
 #include <QtQuickTemplates2/private/qquickcontrol_p.h>
 
@@ -191,7 +191,7 @@ void ButtonContent::refreshIcon(Side side)
         return;
     }
     if (!icon)
-        icon = make<QQuickImage>(this);
+        icon = make<IconImage>(this);
     icon->setSize(size);
     icon->setSourceSize(size);
     icon->setSource(iconUrl(contentColor(m_data), name));

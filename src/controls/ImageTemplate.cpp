@@ -1,7 +1,6 @@
 #include "ImageTemplate.h"
 
 #include "AliasSignals.h"
-#include "EdgeNode.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -25,7 +24,7 @@ QString nameOf(const QColor &color)
 } // namespace
 
 ImageTemplate::ImageTemplate(QQuickItem *parent)
-    : QQuickImage(parent)
+    : IconImage(parent)
 {
 }
 
@@ -152,19 +151,9 @@ void ImageTemplate::geometryChange(const QRectF &newGeometry, const QRectF &oldG
 
 void ImageTemplate::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    QQuickImage::itemChange(change, data);
-    if (m_isIcon && change == ItemDevicePixelRatioHasChanged)
-        update();
+    IconImage::itemChange(change, data);
     if (m_sourceSizeStep > 0 && (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange))
         updateSourceSize();
-}
-
-// An icon between the pixels of the device would be blurred.
-QSGNode *ImageTemplate::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data)
-{
-    const auto paint = [&](QSGNode *node) { return QQuickImage::updatePaintNode(node, data); };
-    const bool fills = m_isIcon && QSizeF(paintedWidth(), paintedHeight()) == size();
-    return EdgeNode::paint<QSGInternalImageNode>(this, oldNode, paint, fills);
 }
 
 ImageTemplate::Icon &ImageTemplate::icon()

@@ -1,17 +1,16 @@
 #pragma once
 
 #include "ControlState.h"
+#include "IconImage.h"
 #include "StateColor.h"
 
 #include <QPointer>
-
-#include <QtQuick/private/qquickimage_p.h>
 
 #include <memory>
 
 /// An image with a spinner while it loads, that also shows SVG files of the host's resources by name: the images and
 /// icons of the library without a binding for each part.
-class ImageTemplate : public QQuickImage, private ControlState::User
+class ImageTemplate : public IconImage, private ControlState::User
 {
     Q_OBJECT
     /// Whether a spinner stands in the image's place while that is loading.
@@ -69,7 +68,6 @@ protected:
     void connectNotify(const QMetaMethod &signal) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
-    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
 
 private:
     struct Icon

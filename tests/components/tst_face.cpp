@@ -76,6 +76,7 @@ private Q_SLOTS:
     void edgesAreCrisp();
     void edgesThatMeetMeetOnThePixel();
     void inALayer();
+    void iconsAreTheSameEverywhere_data();
     void iconsAreTheSameEverywhere();
     void aTurnedFaceStays();
     void comesAndGoes();
@@ -153,16 +154,26 @@ void tst_Face::edgesThatMeetMeetOnThePixel()
         QCOMPARE(runs[i].length, i == 1 || i == runs.size() - 2 ? 1 : 2);
 }
 
+void tst_Face::iconsAreTheSameEverywhere_data()
+{
+    QTest::addColumn<QByteArray>("icon");
+    QTest::newRow("icon") << QByteArray("WSvgIcon { width: 16; height: 16; svgName: 'settings-bold'");
+    QTest::newRow("of a button") << QByteArray("LKRoundButton { width: 16; height: 16; buttonIcon: 'settings-bold';"
+                                               "buttonStyle: LKButtonStyle.Ghost; buttonSize: LKButtonSize.S");
+}
+
 void tst_Face::iconsAreTheSameEverywhere()
 {
-    QVERIFY(show("Item { width: 300; height: 200; Item { objectName: 'around'; x: 40; y: 40;"
-                 "WSvgIcon { objectName: 'icon'; width: 16; height: 16; svgName: 'settings-bold' } } }"));
+    QFETCH(const QByteArray, icon);
+    QVERIFY(show("Item { width: 300; height: 200; Item { objectName: 'around'; x: 40; y: 40;" + icon
+                 + "; objectName: 'icon' } } }"));
     auto *around = find(u"around"_s);
-    auto *icon = find(u"icon"_s);
+    moveMouseAway();
+    auto *inside = find(u"icon"_s);
     const auto shown = [&](QPoint corner) { return window()->grabWindow().copy(QRect(corner, QSize(20, 20))); };
     const QImage sharp = shown({50, 50});
     for (const double place : {0.1, 0.3, 0.4, 0.5, 0.7, 0.8}) {
-        for (QQuickItem *moved : {icon, around}) {
+        for (QQuickItem *moved : {inside, around}) {
             const double origin = moved == around ? 40 : 0;
             moved->setPosition({origin + place, origin + place});
             const int corner = 50 + int(std::floor(place * Ratio + 0.51));
