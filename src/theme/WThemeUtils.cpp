@@ -5,8 +5,11 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QMutex>
+#include <QResource>
 
 #include <cmath>
 #include <utility>
@@ -36,6 +39,20 @@ QColor resolveColor(const QJsonValue &value, const std::unordered_map<std::strin
     }
     const auto entry = value.isString() ? colors.find(value.toString().toStdString()) : colors.end();
     return entry != colors.end() ? entry->second : fallback;
+}
+
+// A theme as it was read last: going back to one is common, and its files seldom change.
+struct ReadTheme
+{
+    QList<QByteArray> files;
+    std::unordered_map<std::string, WColorSet> colorSets;
+};
+
+// As they stand in the resources, most likely compressed.
+QByteArray storedBytes(const QString &path)
+{
+    const QResource resource(path);
+    return {reinterpret_cast<const char *>(resource.data()), qsizetype(resource.size())};
 }
 
 } // namespace
@@ -128,13 +145,29 @@ std::unordered_map<std::string, WColorSet> WThemeUtils::parseWColorSetsFromJson(
 
 std::unordered_map<std::string, WColorSet> WThemeUtils::loadTheme(const QString &themeName)
 {
-    auto colorSets = parseWColorSetsFromJson(u":/Themes/meridian_%1.json"_s.arg(themeName), {});
-    const auto palette = parseWColorsFromJson(u":/Themes/colors.json"_s);
-    colorSets.merge(parseWColorSetsFromJson(u":/Themes/%1.json"_s.arg(themeName), palette));
+    static QMutex mutex;
+    static QHash<QString, ReadTheme> readThemes;
+    const QMutexLocker lock(&mutex);
+
+    const QString tokensPath = u":/Themes/meridian_%1.json"_s.arg(themeName);
+    const QString palettePath = u":/Themes/colors.json"_s;
+    const QString ownTokensPath = u":/Themes/%1.json"_s.arg(themeName);
+    const QList<QByteArray> files = {storedBytes(tokensPath), storedBytes(palettePath), storedBytes(ownTokensPath)};
+    const auto known = readThemes.constFind(themeName);
+    if (known != readThemes.cend() && known->files == files)
+        return known->colorSets;
+
+    auto colorSets = parseWColorSetsFromJson(tokensPath, {});
+    const auto palette = parseWColorsFromJson(palettePath);
+    auto ownColorSets = parseWColorSetsFromJson(ownTokensPath, palette);
+    const bool isWhole = !colorSets.empty() && !palette.empty() && !ownColorSets.empty();
+    colorSets.merge(ownColorSets);
 
     const WColorSet transparent(u"transparent"_s, QColor(Qt::transparent));
     colorSets.emplace("transparent", transparent);
     colorSets.emplace("#00000000", transparent);
+    if (isWhole) // otherwise it has something to report each time
+        readThemes.insert(themeName, {files, colorSets});
     return colorSets;
 }
 

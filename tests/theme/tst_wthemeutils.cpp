@@ -125,6 +125,7 @@ private Q_SLOTS:
 
     void loadTheme_data();
     void loadTheme();
+    void loadThemeAgain();
     void loadThemeStaysInResources();
     void loadHugeTheme();
 
@@ -680,6 +681,40 @@ void tst_WThemeUtils::loadTheme()
     QCOMPARE(described(WThemeUtils::loadTheme(theme)), expected);
     QCOMPARE(log.texts(), messages);
     QCOMPARE(log.warnings(), messages);
+}
+
+// What is kept of a theme counts for the same files only.
+void tst_WThemeUtils::loadThemeAgain()
+{
+    const Files whole{{u"/Themes/meridian_dark.json"_s, json(R"({"tokens":{"a":{"normal":$red}}})")},
+                      {u"/Themes/colors.json"_s, json(R"({"colors":[{"variations":[{"name":"p","rgba":$green}]}]})")},
+                      {u"/Themes/dark.json"_s, json(R"({"tokens":{"b":{"normal":"p"}}})")}};
+    const Files others{{u"/Themes/meridian_dark.json"_s, json(R"({"tokens":{"a":{"normal":$green}}})")},
+                       {u"/Themes/colors.json"_s, json(R"({"colors":[{"variations":[{"name":"p","rgba":$red}]}]})")},
+                       {u"/Themes/dark.json"_s, json(R"({"tokens":{"c":{"normal":"p"}}})")}};
+    const auto load = [](const Files &files) {
+        const MemoryResources resources(files);
+        LogRecorder log;
+        const auto sets = described(WThemeUtils::loadTheme(u"dark"_s));
+        return std::pair(sets, log.texts());
+    };
+    const auto first = load(whole);
+    QCOMPARE(first.second, QStringList());
+    QCOMPARE(load(whole), first);
+
+    for (auto file = whole.begin(); file != whole.end(); ++file) {
+        Files changed = whole;
+        changed[file.key()] = others[file.key()];
+        QVERIFY2(load(changed).first != first.first, qPrintable(file.key()));
+        QCOMPARE(load(whole), first);
+
+        Files missing = whole;
+        missing.remove(file.key());
+        const auto faulty = load(missing);
+        QVERIFY(faulty.first != first.first);
+        QCOMPARE(load(missing), faulty); // with the same messages again
+        QCOMPARE(load(whole), first);
+    }
 }
 
 void tst_WThemeUtils::loadThemeStaysInResources()
