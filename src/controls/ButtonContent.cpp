@@ -31,14 +31,6 @@ QColor contentColor(const LKButtonColors *data)
     return color ? color->color() : QColor(Qt::transparent);
 }
 
-// None in no colour: there is nothing to draw.
-QUrl iconUrl(const QColor &color, const QString &name)
-{
-    if (color.alpha() == 0)
-        return {};
-    return QUrl("image://svg/"_L1 + color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) + u'/' + name);
-}
-
 // An arrow points the other way in a mirrored layout.
 bool isDirectional(QStringView icon)
 {
@@ -194,7 +186,7 @@ void ButtonContent::refreshIcon(Side side)
         icon = make<IconImage>(this);
     icon->setSize(size);
     icon->setSourceSize(size);
-    icon->setSource(iconUrl(contentColor(m_data), name));
+    icon->setSource(IconImage::iconUrl(contentColor(m_data), name));
 }
 
 void ButtonContent::refreshText()

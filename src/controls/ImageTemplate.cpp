@@ -16,11 +16,6 @@ namespace {
 
 constexpr double SpinnerSize = 24;
 
-QString nameOf(const QColor &color)
-{
-    return color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb);
-}
-
 } // namespace
 
 ImageTemplate::ImageTemplate(QQuickItem *parent)
@@ -108,7 +103,7 @@ StateColor *ImageTemplate::iconColors()
 
 QString ImageTemplate::iconColorName()
 {
-    return nameOf(icon().color.color());
+    return colorName(icon().color.color());
 }
 
 void ImageTemplate::setSource(const QUrl &url)
@@ -178,8 +173,7 @@ QUrl ImageTemplate::svgUrl()
         return QUrl(u"qrc:/Resources/%1.svg"_s.arg(m_svgName));
     if (width() < 1 || height() < 1)
         return {};
-    const QColor color = icon().color.color();
-    return color.alpha() == 0 ? QUrl() : QUrl("image://svg/"_L1 + nameOf(color) + u'/' + m_svgName);
+    return iconUrl(icon().color.color(), m_svgName);
 }
 
 // Whether everything that QML gives is here.
