@@ -58,6 +58,15 @@ protected:
         return true;
     }
 
+    // A key that is held down is released again and again on some platforms; other keys are not the button's.
+    void keyReleaseEvent(QKeyEvent *event) override
+    {
+        if (event->isAutoRepeat() && event->key() == Qt::Key_Space)
+            event->accept();
+        else
+            Base::keyReleaseEvent(event);
+    }
+
     void componentComplete() override
     {
         Base::componentComplete();

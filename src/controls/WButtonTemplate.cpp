@@ -152,15 +152,6 @@ void WButtonTemplate::keyPressEvent(QKeyEvent *event)
         FocusableButton::keyPressEvent(event);
 }
 
-// A key that is held down is released again and again on some platforms.
-void WButtonTemplate::keyReleaseEvent(QKeyEvent *event)
-{
-    if (event->isAutoRepeat())
-        event->accept();
-    else
-        FocusableButton::keyReleaseEvent(event);
-}
-
 void WButtonTemplate::hoverChange()
 {
     FocusableButton::hoverChange();

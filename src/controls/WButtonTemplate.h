@@ -79,7 +79,6 @@ protected:
     void componentComplete() override;
     void itemChange(ItemChange change, const ItemChangeData &value) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
     void hoverChange() override;
     void buttonChange(ButtonChange change) override;
     void fontChange(const QFont &newFont, const QFont &oldFont) override;

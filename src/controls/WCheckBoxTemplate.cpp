@@ -166,15 +166,6 @@ void WCheckBoxTemplate::keyPressEvent(QKeyEvent *event)
         FocusableButton::keyPressEvent(event);
 }
 
-// A key that is held down is released again and again on some platforms.
-void WCheckBoxTemplate::keyReleaseEvent(QKeyEvent *event)
-{
-    if (event->isAutoRepeat())
-        event->accept();
-    else
-        FocusableButton::keyReleaseEvent(event);
-}
-
 void WCheckBoxTemplate::hoverChange()
 {
     FocusableButton::hoverChange();

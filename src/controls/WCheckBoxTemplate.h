@@ -75,7 +75,6 @@ protected:
     void paddingChange(const QMarginsF &newPadding, const QMarginsF &oldPadding) override;
     void mirrorChange() override;
     void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
     void hoverChange() override;
     void buttonChange(ButtonChange change) override;
     QString nameWithoutText() const override;

@@ -10,6 +10,7 @@ class tst_Buttons : public ComponentTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void repeatedReleasesOfOtherKeysGoOn();
     void wButtonTriggers_data();
     void wButtonTriggers();
     void wButtonIsNotTriggeredByAHeldKey();
@@ -979,6 +980,22 @@ void tst_Buttons::peopleRowFollowsItsStateInHighContrast()
     QCOMPARE(color(title, "color"), application()->getColorSet(u"label-error-text"_s).normal);
     application()->setThemeMode(u"highcontrast"_s);
     QCOMPARE(color(title, "color"), application()->getColorSet(u"listitem-textprimary"_s).disabled);
+}
+
+void tst_Buttons::repeatedReleasesOfOtherKeysGoOn()
+{
+    QVERIFY(show("Item { id: around; width: 200; height: 80; property int releases: 0\n"
+                 "Keys.onReleased: event => { if (event.isAutoRepeat) ++releases }\n"
+                 "Column { WButton { objectName: 'button' } WCheckBox { objectName: 'box' } } }"));
+    for (const QString &name : {u"button"_s, u"box"_s}) {
+        find(name)->forceActiveFocus();
+        root()->setProperty("releases", 0);
+        for (const auto &[key, releases] : {std::pair(Qt::Key_Space, 0), {Qt::Key_A, 1}}) {
+            QKeyEvent event(QEvent::KeyRelease, key, Qt::NoModifier, {}, true);
+            QCoreApplication::sendEvent(window(), &event);
+            QCOMPARE(root()->property("releases").toInt(), releases);
+        }
+    }
 }
 
 LUMAKIT_TEST_MAIN(tst_Buttons)
